@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "base/controls.h"
+#include "base/host.h"
+#include "base/int16.h"
+#include "base/table.h"
+
+namespace tarnwick {
+
+/// What an army file says of the army as a whole, and the controls that edit it.
+struct ArmyHeader {
+  ArmyHeader();
+
+  std::string ArmyFile;  ///< the name of the file that was loaded, without folder and ending
+  std::string ArmyAuthor;
+  std::string ArmyDescription;  ///< its line breaks are "@"
+  std::string ArmyPeriod;       ///< "from,to" in years, BC negative
+  std::string ArmyImages;       ///< the further image catalog
+  std::string ArmyTypeText;
+
+  TextBox ArmyDesc;
+  Frame HistoricTab;
+  Table<OptionButton, 0, 1> FromACBC, toACBC;  ///< BC, AC
+  TextBox FromData, ToData;
+  CheckBox TYPE_IsPersonal, TYPE_IsFantasy;
+  CheckBox TribalCheck, Ferocity, Mobility, LongSword, FOW, Discipline;
+};
+
+/// The description box changed.
+void ArmyDesc_Change(ArmyHeader& header);
+
+// The focus leaves a period box: every failed check is reported, and the period takes the numbers
+// all the same. Returns true (cancel: the focus stays) when a check failed.
+
+bool FromData_Validate(ArmyHeader& header, Host& host);
+bool ToData_Validate(ArmyHeader& header, Host& host);
+
+// One of the era buttons was clicked: a period that begins AC also ends AC.
+
+void FromACBC_Click(ArmyHeader& header);
+void toACBC_Click(ArmyHeader& header);
+
+/// Rebuilds `ArmyPeriod` from the boxes and era buttons.
+void BuildPeriod(ArmyHeader& header);
+
+/// "", "F" (fantasy), "P" (personal) or "FP".
+std::string ArmyTypeCode(const ArmyHeader& header);
+
+/// The ticked special rules as a comma list, in the order of the army file.
+std::string SpecialRulesText(const ArmyHeader& header);
+
+/// Unticks all special rules.
+void ClearSpecialRules(ArmyHeader& header);
+
+}  // namespace tarnwick

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+#include "armyfile/army_header.h"
+#include "base/host.h"
+#include "battlefield/terrain.h"
+#include "rules/army_state.h"
+
+namespace tarnwick {
+
+/// The one working army with its battlefield and its header.
+struct WorkingArmy {
+  /// `programFolder` holds the catalogs and the army files.
+  explicit WorkingArmy(std::filesystem::path programFolder) : Army(std::move(programFolder)) {}
+
+  ArmyState Army;
+  Battlefield Field;
+  ArmyHeader Header;
+};
+
+/// Start-up: prepares the state, puts the "Army Managemet" panel in front and reads the image
+/// catalog. Throws SubscriptError when that has more than 200 rows.
+void Form_Load(WorkingArmy& work);
+
+/// A module was chosen. The army on screen stays; later catalog reads use the new module's files.
+void modOption_Click(WorkingArmy& work);
+
+/// A new army of the base army that the user chooses.
+void NewArmyBtn_Click(WorkingArmy& work, Host& host);
+
+}  // namespace tarnwick

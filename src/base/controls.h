@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/int16.h"
+
+namespace tarnwick {
+
+// What the window's controls hold. Many rules read it, so it belongs to the state; the window
+// mirrors it and writes into it what the user enters.
+
+struct Label {
+  std::string Caption;
+  std::string Tag;
+  bool Visible = true;
+  int ForeColor = 0;  ///< index in the classic 16-colour palette; 0 is black
+};
+
+struct TextBox {
+  std::string Text;
+  std::string Tag;
+  bool Visible = true;
+};
+
+struct Button {
+  std::string Caption;
+  bool Visible = true;
+};
+
+struct Frame {
+  std::string Caption;
+  bool Visible = true;
+};
+
+struct OptionButton {
+  std::string Caption;
+  bool Value = false;
+  bool Visible = true;
+};
+
+struct CheckBox {
+  bool Value = false;
+};
+
+struct ListEntry {
+  std::string Text;
+  Int16 ItemData;
+
+  bool operator==(const ListEntry&) const = default;
+};
+
+/// A list box or a drop-down list.
+struct ListBox {
+  std::vector<ListEntry> Entries;
+  int ListIndex = -1;  ///< the selected entry, from 0; −1 is none
+  bool Visible = true;
+
+  bool HasSelection() const {
+    return ListIndex >= 0 && ListIndex < static_cast<int>(Entries.size());
+  }
+  const ListEntry& Selected() const { return Entries.at(static_cast<std::size_t>(ListIndex)); }
+  /// The selected entry's text, "" without a selection.
+  std::string Text() const { return HasSelection() ? Selected().Text : ""; }
+
+  void Clear() {
+    Entries.clear();
+    ListIndex = -1;
+  }
+  void AddItem(const std::string& text, Int16 itemData = 0) {
+    Entries.push_back({text, itemData});
+  }
+};
+
+/// Panels of equal place and size, of which one is in front.
+struct FrameStack {
+  int Front = 0;
+};
+
+}  // namespace tarnwick

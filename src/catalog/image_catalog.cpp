@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "catalog/image_catalog.h"
+
+#include "base/ansi.h"
+#include "base/text.h"
+
+namespace tarnwick {
+namespace {
+
+void AppendImages(ImageCatalog& catalog, const ProfileFiles& files,
+                  const std::filesystem::path& file) {
+  const Int16 total = files.ReadIniNumber("IMAGES", "total", file);
+  for (Int16 i = 1; i <= total; ++i) {
+    ++catalog.TotImages;
+    catalog.Images[catalog.TotImages] =
+        ParseImageRow(files.ReadIniString("IMAGES", RowKey("image", i), file));
+  }
+}
+
+}  // namespace
+
+ImageRec ParseImageRow(std::string_view row) {
+  return {GetField(row, 1), GetField(row, 2), GetField(row, 3), GetField(row, 4),
+          GetField(row, 5)};
+}
+
+void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
+                const std::filesystem::path& programFolder, bool brakkaMode,
+                std::string_view armyFile) {
+  catalog.TotImages = 0;
+  AppendImages(catalog, files,
+               programFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));
+
+  // The army file is looked for in the program folder whatever the module.
+  std::string further = files.ReadIniString(
+      "ARMY", "images", PathIn(programFolder, std::string(armyFile) + ".army"));
+  if (further.empty() && brakkaMode) further = "images.dat";
+  if (!further.empty()) AppendImages(catalog, files, PathIn(programFolder, further));
+}
+
+}  // namespace tarnwick

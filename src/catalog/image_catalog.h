@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "base/int16.h"
+#include "base/table.h"
+#include "catalog/profile_files.h"
+
+namespace tarnwick {
+
+/// A picture and the unit that it shows.
+struct ImageRec {
+  std::string Id;  ///< the picture's file, relative to the program folder
+  std::string Type;
+  std::string Class;
+  std::string Missile;
+  std::string Name;  ///< what the choice lists show
+};
+
+struct ImageCatalog {
+  Table<ImageRec, 1, 200> Images;
+  Int16 TotImages;
+};
+
+ImageRec ParseImageRow(std::string_view row);
+
+/// Rebuilds the catalog: the module's rows, then those of the catalog that the army file
+/// `armyFile` (its name, or "") names; in the Brakka module the base game's when it names none.
+/// Missing files give no rows. More than 200 rows throw SubscriptError.
+void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
+                const std::filesystem::path& programFolder, bool brakkaMode,
+                std::string_view armyFile);
+
+}  // namespace tarnwick

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/int16.h"
+
+namespace tarnwick {
+
+/// Access to profile files. A file that was read is kept, parsed, for as long as its time stamp
+/// says that it is unchanged.
+class ProfileFiles {
+ public:
+  ProfileFiles();
+  ProfileFiles(const ProfileFiles&) = delete;
+  ProfileFiles& operator=(const ProfileFiles&) = delete;
+  ~ProfileFiles();
+
+  /// The value of a key, its first 254 bytes at the most; "" when file, section or key is missing.
+  std::string ReadIniString(std::string_view section, std::string_view key,
+                            const std::filesystem::path& file) const;
+
+  /// The same as a number: lenient, rounded to 16 bits. Throws OverflowError.
+  Int16 ReadIniNumber(std::string_view section, std::string_view key,
+                      const std::filesystem::path& file) const;
+
+  /// Sets a key, making section and file as needed. The file is replaced in one step. Returns
+  /// non-zero when it was written; an error is no more than a 0.
+  Int16 WriteIniString(std::string_view section, std::string_view key, std::string_view value,
+                       const std::filesystem::path& file);
+
+ private:
+  struct KnownFile;
+
+  KnownFile* Known(const std::filesystem::path& file) const;
+
+  mutable std::vector<std::unique_ptr<KnownFile>> known_;  ///< the one used last comes first
+};
+
+/// True when `path` names a plain file.
+bool FileExists(const std::filesystem::path& path);
+
+/// The key of a numbered row: "unit" and 12 make "unit12".
+std::string RowKey(std::string_view word, Int16 number);
+
+}  // namespace tarnwick

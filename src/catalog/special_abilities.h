@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "catalog/profile_files.h"
+
+namespace tarnwick {
+
+/// The catalog of special abilities, which both modules share.
+class SpecialAbilities {
+ public:
+  SpecialAbilities(const ProfileFiles& files, const std::filesystem::path& programFolder)
+      : files_(files), file_(programFolder / "specials.dat") {}
+
+  /// Whether the group `group`, a unit row's specials field, holds `code`, case and all. Ten codes
+  /// are looked at; an empty one ends the list.
+  bool Has(std::string_view group, std::string_view code) const;
+
+  /// A paragraph "*code=explanation" for each of the group's first ten codes, up to the first one
+  /// that nothing explains. Every paragraph begins with a line break and an empty line.
+  std::string Explain(std::string_view group) const;
+
+ private:
+  std::string List(std::string_view group) const;
+
+  const ProfileFiles& files_;
+  std::filesystem::path file_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "rules/army_state.h"
+
+#include "base/numbers.h"
+#include "rules/unit_grid.h"
+
+namespace tarnwick {
+
+std::string VersionText(const Version& version) {
+  return NumberText(version.Major) + "." + NumberText(version.Minor) + "." +
+         NumberText(version.Revision);
+}
+
+void InitializeVariables(ArmyState& state) {
+  state.ArmyListFile = ModuleFolder(state) / "armylist.dat";
+
+  for (int k = 0; k <= 22; ++k) ShowGridLine(state.Units, k, false);
+  const char* const views[] = {"Infantry", "Mounted", "Buy"};
+  for (int i = 0; i < 3; ++i) state.Units.ViewOption[i].Caption = views[i];
+  TickOption(state.Units.ViewOption, 0);
+  state.Units.TotalCost.Caption = "Total: ";
+  for (int i = 0; i <= 6; ++i) {
+    state.Units.TypeLimit[i].Visible = false;
+    state.Units.MinLimit[i].Visible = false;
+    state.Command.LeaderName[i].Visible = false;
+  }
+
+  state.Command.LeaderFrame.Caption = "Leaders ";
+  state.Command.LeaderName[0].Caption = "Option1";
+  state.Command.SpecNameLabel[0] = {.Caption = "Card", .Tag = "", .Visible = false};
+  state.Command.SpecCostLabel[0].Visible = false;
+  state.Command.SpecMaxLabel[0] = {.Caption = "0", .Tag = "", .Visible = false};
+  state.Command.SpecBuy[0] = {.Text = "", .Tag = "0", .Visible = false};
+
+  state.Management.modOption[0].Caption = "Velmora";
+  state.Management.modOption[1].Caption = "Brakka";
+  TickOption(state.Management.modOption, 0);
+}
+
+void ShowPanel(ArmyState& state, Panel panel) { state.EditFrame.Front = static_cast<int>(panel); }
+
+std::filesystem::path ModuleFolder(const ArmyState& state) {
+  return state.BrakkaMode ? state.ProgramFolder / "brakka" : state.ProgramFolder;
+}
+
+}  // namespace tarnwick

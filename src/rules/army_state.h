@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "base/controls.h"
+#include "base/int16.h"
+#include "base/table.h"
+#include "catalog/base_army.h"
+#include "catalog/image_catalog.h"
+#include "catalog/profile_files.h"
+
+namespace tarnwick {
+
+/// The editor's own version.
+struct Version {
+  Int16 Major = 1;
+  Int16 Minor = 2;
+  Int16 Revision = 1;
+};
+
+/// "1.2.1"
+std::string VersionText(const Version& version);
+
+/// The "Units" panel: the selection grid with its lines 0 to 22, the limits, the summary.
+struct UnitsPanel {
+  template <typename T>
+  using Column = Table<T, 0, 22>;
+
+  Column<Label> TypeLabel, ClassLabel, TQLabel, SizeLabel, MissileLabel, CostLabel, MaxLabel;
+  Column<TextBox> Buy;  ///< the tag names the base-army row that the line shows
+  Column<Label> UnitTotalLabel;
+  Column<ListBox> ImageName;  ///< an entry's data is its row in the image catalog
+  Column<Button> ViewBtn;
+  Column<Label> specLabel;
+
+  Table<OptionButton, 0, 2> ViewOption;  ///< infantry, mounted, bought
+
+  Table<Label, 0, 6> TypeLimit;  ///< the tag names the row in `Limits`
+  Table<Label, 0, 6> MinLimit;
+
+  Label TotalCost, TQinfo;
+};
+
+/// The "Command" panel: leaders and special cards.
+struct CommandPanel {
+  Frame LeaderFrame;
+  Table<OptionButton, 0, 6> LeaderName;
+
+  ControlArray<Label> SpecNameLabel, SpecCostLabel, SpecMaxLabel;
+  ControlArray<TextBox> SpecBuy;  ///< the tag holds the number of cards paid for
+};
+
+/// The "Army Managemet" panel.
+struct ManagementPanel {
+  Table<OptionButton, 0, 1> modOption;  ///< the base game, Brakka
+  TextBox ArmyName, ArmyFileName;
+};
+
+/// The working army: what the catalog says of its base army, what the player bought, and what
+/// the controls show.
+struct ArmyState {
+  explicit ArmyState(std::filesystem::path programFolder)
+      : ProgramFolder(std::move(programFolder)) {}
+
+  std::filesystem::path ProgramFolder;
+  Version EditorVersion;
+  ProfileFiles Files;
+
+  std::filesystem::path ArmyListFile;
+  bool BrakkaMode = false;
+  std::string BaseArmyName;  ///< its section in the catalog; "" when none is chosen
+  bool FormReady = false;
+  bool SpecRowsLoaded = false;
+  bool GridFilling = false;   ///< code, not the user, fills the grid
+  bool SetupLoading = false;  ///< code, not the user, fills the image lists or a setup
+
+  Int16 ArmyPoints;   ///< the base army's budget
+  Int16 PointsLeft;   ///< army points still to spend
+  Int16 PointsSpent;  ///< army points spent on units
+  Int16 CommandPts;   ///< command points still to spend, on leaders, cards and terrain
+
+  Int16 TotUnits, TotLimits, TotSpecial;
+  Table<UnitRec, 1, 200> BaseUnits;
+  Table<LimitRec, 1, 10> Limits;
+  Table<LeaderRec, 0, 10> Leaders;
+  Int16 LeaderCount;
+  Int16 SelectedLeader = -1;
+  Int16 SpecUnitRow;  ///< the row whose special abilities the dialog shows
+
+  ImageCatalog Catalog;
+
+  std::string Title;  ///< of the main window
+  FrameStack EditFrame;
+  UnitsPanel Units;
+  CommandPanel Command;
+  ManagementPanel Management;
+};
+
+/// What the window's design holds before anything is loaded: the module's paths, captions, and
+/// the repeated rows, which stay hidden until an army fills them.
+void InitializeVariables(ArmyState& state);
+
+/// The panels of `EditFrame`.
+enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaboratory, Setup };
+
+/// Brings a panel to the front; nothing else changes.
+void ShowPanel(ArmyState& state, Panel panel);
+
+/// The module's own folder: the program folder, or "brakka" in it.
+std::filesystem::path ModuleFolder(const ArmyState& state);
+
+/// Ticks one option of a group and unticks the others.
+template <int Last>
+void TickOption(Table<OptionButton, 0, Last>& group, Int16 index) {
+  for (int i = 0; i <= Last; ++i) group[i].Value = i == index;
+}
+
+}  // namespace tarnwick

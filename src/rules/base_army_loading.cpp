@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "rules/base_army_loading.h"
+
+#include <string>
+
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "rules/budget.h"
+#include "rules/leaders.h"
+
+namespace tarnwick {
+namespace {
+
+std::string ReadKey(const ArmyState& state, std::string_view key) {
+  return state.Files.ReadIniString(state.BaseArmyName, key, state.ArmyListFile);
+}
+
+Int16 ReadNumber(const ArmyState& state, std::string_view key) {
+  return LenientInt16(ReadKey(state, key));
+}
+
+void LoadUnits(ArmyState& state, Host& host) {
+  for (Int16 i = 1; i <= state.TotUnits; ++i) {
+    const std::string row = ReadKey(state, RowKey("unit", i));
+    if (row.empty()) {
+      host.Message("Army unit " + NumberText(i) + " not found");
+      state.TotUnits = 0;
+      return;
+    }
+    state.BaseUnits[i] = ParseUnitRow(row);
+  }
+}
+
+void ShowLimit(ArmyState& state, Int16 row, const std::string& asWritten) {
+  const LimitRec& limit = state.Limits[row];
+  Label& type = state.Units.TypeLimit[row - 1];
+  type.Visible = true;
+  type.Caption = limit.Class.empty() ? asWritten : limit.TypeA + "[" + limit.Class + "]";
+  type.Tag = NumberText(row);
+  state.Units.MinLimit[row - 1].Visible = true;
+  state.Units.MinLimit[row - 1].Caption = NumberText(limit.Minimum);
+}
+
+/// Makes row `j` of the special cards out of row 0 when it is missing.
+void LoadCardRow(CommandPanel& panel, Int16 j) {
+  if (panel.SpecBuy.Has(j)) return;
+  panel.SpecNameLabel.Load();
+  panel.SpecCostLabel.Load();
+  panel.SpecMaxLabel.Load();
+  panel.SpecBuy.Load();
+}
+
+void ShowCardRow(CommandPanel& panel, Int16 j, bool named) {
+  panel.SpecNameLabel[j].Visible = named;
+  panel.SpecCostLabel[j].Visible = true;
+  panel.SpecMaxLabel[j].Visible = true;
+  panel.SpecBuy[j].Visible = true;
+}
+
+}  // namespace
+
+void LoadBaseArmy(ArmyState& state, Host& host) {
+  try {
+    if (state.Management.ArmyName.Text.empty()) {
+      state.Management.ArmyName.Text = state.BaseArmyName;
+    }
+    LoadLeaders(state, host);
+    LoadLimits(state);
+    LoadSpecials(state);
+    state.BaseUnits.Fill({});
+    state.TotUnits = ReadNumber(state, "tot_units");
+    state.PointsLeft = ReadNumber(state, "points");
+    state.ArmyPoints = state.PointsLeft;
+    state.CommandPts = ReadNumber(state, "command_pts");
+    state.PointsSpent = 0;
+    ShowPoints(state);
+    LoadUnits(state, host);
+  } catch (const RuntimeError&) {
+    // An army that breaks the catalog's rules is offered as far as it could be read.
+  }
+}
+
+void LoadLeaders(ArmyState& state, Host& host) {
+  state.SelectedLeader = -1;
+  TickOption(state.Command.LeaderName, -1);
+  state.LeaderCount = ReadNumber(state, "tot_leader");
+  state.Command.LeaderName[0].Visible = true;
+  for (Int16 i = 0; i < state.LeaderCount; ++i) {
+    const std::string row = ReadKey(state, RowKey("leader", i + 1));
+    if (row.empty()) {
+      host.Message("Leader # " + NumberText(i + 1) + " not present");
+      break;
+    }
+    state.Leaders[i] = ParseLeaderRow(row);
+    ShowLeader(state, i);
+  }
+  for (Int16 i = state.LeaderCount; i <= 6; ++i) state.Command.LeaderName[i].Visible = false;
+}
+
+void LoadLimits(ArmyState& state) {
+  state.TotLimits = ReadNumber(state, "tot_limits");
+  for (Int16 i = 1; i <= state.TotLimits; ++i) {
+    const std::string row = ReadKey(state, RowKey("limit", i));
+    state.Limits[i] = ParseLimitRow(row);
+    ShowLimit(state, i, GetField(row, 1));
+  }
+  for (Int16 j = state.TotLimits; j <= 6; ++j) {
+    state.Units.TypeLimit[j].Visible = false;
+    state.Units.MinLimit[j].Visible = false;
+  }
+}
+
+void LoadSpecials(ArmyState& state) {
+  CommandPanel& panel = state.Command;
+  state.TotSpecial = ReadNumber(state, "tot_special");
+  for (Int16 i = 1; i <= state.TotSpecial; ++i) {
+    const Int16 j = i - 1;
+    if (!state.SpecRowsLoaded || !panel.SpecBuy.Has(j)) {
+      LoadCardRow(panel, j);
+      ShowCardRow(panel, j, true);
+    }
+    const CardRow card = ParseCardRow(ReadKey(state, RowKey("special", i)));
+    panel.SpecBuy[j].Text = "";
+    panel.SpecBuy[j].Tag = "0";
+    panel.SpecNameLabel[j].Caption = card.Name;
+    panel.SpecCostLabel[j].Caption = card.Cost;
+    panel.SpecMaxLabel[j].Caption = card.Maximum;
+  }
+  if (state.SpecRowsLoaded) return;  // rows beyond this army's stay as an earlier one left them
+  for (Int16 i = state.TotSpecial + 1; i <= 4; ++i) {
+    // The rows that fill the panel up have no name but can be seen, deliberately.
+    LoadCardRow(panel, i - 1);
+    ShowCardRow(panel, i - 1, false);
+  }
+  state.SpecRowsLoaded = true;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "rules/special_cards.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "rules/budget.h"
+
+namespace tarnwick {
+namespace {
+
+void ReleaseCards(ArmyState& state, Int16 j) {
+  TextBox& box = state.Command.SpecBuy[j];
+  const double paidFor = StrictNumber(box.Tag);
+  if (paidFor <= 0) return;
+  state.CommandPts = RoundToInt16(paidFor * LenientNumber(state.Command.SpecCostLabel[j].Caption) +
+                                  state.CommandPts.Value());
+  ShowPoints(state);
+  box.Tag = "0";
+  box.Text = "";
+}
+
+}  // namespace
+
+bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index) {
+  TextBox& box = state.Command.SpecBuy[index];
+  box.Text = Trim(box.Text);
+  const double typed = LenientNumber(box.Text);
+  if (typed == 0) {
+    ReleaseCards(state, index);
+    return false;
+  }
+  box.Text = NumberText(typed);
+  const Int16 quantity = RoundToInt16(Int(typed));
+  const std::string& maximum = state.Command.SpecMaxLabel[index].Caption;
+  if (LenientNumber(maximum) < quantity.Value()) {
+    host.Message("You can only buy " + maximum + " cards");
+    return true;
+  }
+  box.Text = NumberText(quantity);
+  const double cost = LenientNumber(state.Command.SpecCostLabel[index].Caption);
+  const Int16 oldPrice = RoundToInt16(StrictNumber(box.Tag) * cost);
+  const Int16 newPrice = RoundToInt16(quantity.Value() * cost);
+  const Int16 delta = newPrice - oldPrice;
+  if (delta > state.CommandPts) {
+    host.Message("Insufficient points left ");
+    return true;
+  }
+  box.Tag = NumberText(quantity);
+  state.CommandPts -= delta;
+  ShowPoints(state);
+  return false;
+}
+
+std::string PrintDeckInfo(const ArmyState& state) {
+  const std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
+  Int16 unitCards;
+  for (Int16 r = 1; r <= state.TotUnits; ++r) {
+    if (state.BaseUnits[r].Bought > 0) unitCards += state.BaseUnits[r].Bought;
+  }
+  Int16 specialCards;
+  for (Int16 j = 0; j < state.TotSpecial; ++j) {
+    const std::string& text = state.Command.SpecBuy[j].Text;
+    specialCards = RoundToInt16(specialCards.Value() + LenientNumber(text));
+  }
+  if (unitCards == 0 && specialCards == 0) return title;
+  const Int16 total = unitCards + specialCards;
+  const Int16 hundredfold = unitCards * 100;
+  if (total == 0) throw DivisionByZeroError();
+  const double share = Int(double{1} * hundredfold.Value() / total.Value());
+  return title + "[ #cards: " + NumberText(total) + " units: " + NumberText(unitCards) + " (" +
+         NumberText(share) + "%) ]";
+}
+
+}  // namespace tarnwick

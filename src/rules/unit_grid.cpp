@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "rules/unit_grid.h"
+
+#include "base/ansi.h"
+#include "base/numbers.h"
+#include "rules/budget.h"
+#include "rules/unit_types.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int black = 0, lightBlue = 9;
+constexpr int lines = UnitsPanel::Column<Label>::Last + 1;
+
+bool InView(const ArmyState& state, Int16 row) {
+  const UnitRec& unit = state.BaseUnits[row];
+  const auto& view = state.Units.ViewOption;
+  if (view[0].Value) return MountedKind(state, unit.UnitType, row) != mounted;
+  if (view[1].Value) return MountedKind(state, unit.UnitType, row) == mounted;
+  return unit.Bought > 0;
+}
+
+void FillLine(ArmyState& state, Int16 k, Int16 row) {
+  const UnitRec& unit = state.BaseUnits[row];
+  UnitsPanel& grid = state.Units;
+  ShowGridLine(grid, k, true);
+  grid.Buy[k].Tag = NumberText(row);
+  grid.specLabel[k].Caption = unit.SpecialsKey.empty() ? "" : "(+)";
+  grid.TypeLabel[k].Caption = unit.UnitType;
+  grid.ClassLabel[k].Caption = unit.UnitClass;
+  grid.TypeLabel[k].ForeColor =
+      MountedKind(state, unit.UnitType, row) == mounted ? lightBlue : black;
+  grid.TQLabel[k].Caption = unit.TQ;
+  grid.SizeLabel[k].Caption = unit.Size;
+  grid.MissileLabel[k].Caption = unit.Missile;
+  grid.CostLabel[k].Caption = NumberText(unit.Cost);
+  grid.MaxLabel[k].Caption = NumberText(unit.MaxCount);
+  grid.Buy[k].Text = unit.Bought < 1 ? "" : NumberText(unit.Bought);
+  grid.UnitTotalLabel[k].Caption = NumberText(unit.Bought * unit.Cost);
+  ShowUnitImages(state, k, row);
+}
+
+}  // namespace
+
+void ShowSelectUnits(ArmyState& state) {
+  state.GridFilling = true;
+  Int16 n;
+  for (Int16 r = 1; r <= state.TotUnits && n < lines; ++r) {
+    if (!InView(state, r)) continue;
+    FillLine(state, n, r);
+    ++n;
+  }
+  for (; n < lines; ++n) ShowGridLine(state.Units, n, false);
+  state.GridFilling = false;
+  ShowPoints(state);
+}
+
+void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
+  for (auto* column : {&grid.TypeLabel, &grid.ClassLabel, &grid.TQLabel, &grid.SizeLabel,
+                       &grid.MissileLabel, &grid.CostLabel, &grid.MaxLabel, &grid.UnitTotalLabel,
+                       &grid.specLabel}) {
+    (*column)[line].Visible = visible;
+  }
+  grid.Buy[line].Visible = visible;
+  grid.ImageName[line].Visible = visible;
+  grid.ViewBtn[line].Visible = visible;
+}
+
+void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
+  ListBox& list = state.Units.ImageName[line];
+  list.Clear();
+  for (Int16 m = 1; m <= state.Catalog.TotImages; ++m) {
+    const ImageRec& image = state.Catalog.Images[m];
+    if (image.Type == state.Units.TypeLabel[line].Caption &&
+        image.Missile == state.Units.MissileLabel[line].Caption &&
+        image.Class == state.Units.ClassLabel[line].Caption) {
+      list.AddItem(image.Name, m);
+      if (list.ListIndex == -1 && m == state.BaseUnits[row].ChosenImageIdx) {
+        list.ListIndex = static_cast<int>(list.Entries.size()) - 1;
+      }
+    }
+  }
+  if (list.Entries.empty()) return;
+  if (list.ListIndex == -1) list.ListIndex = 0;
+  state.SetupLoading = true;
+  ImageName_Click(state, line);
+  state.SetupLoading = false;
+}
+
+void ViewOption_Click(ArmyState& state) { ShowSelectUnits(state); }
+
+void ImageName_Click(ArmyState& state, Int16 line) {
+  const std::string& tag = state.Units.Buy[line].Tag;
+  if (tag.empty()) return;
+  UnitRec& unit = state.BaseUnits[StrictInt16(tag)];
+  // Filling the list again must not overwrite the player's choice.
+  if (state.SetupLoading && !unit.ChosenImage.empty()) return;
+  const ListBox& list = state.Units.ImageName[line];
+  if (list.Text().empty()) return;
+  unit.ChosenImage = list.Selected().Text;
+  unit.ChosenImageIdx = list.Selected().ItemData;
+}
+
+void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line) {
+  const ListBox& list = state.Units.ImageName[line];
+  if (!list.HasSelection()) return;
+  const std::string& picture = state.Catalog.Images[list.Selected().ItemData].Id;
+  auto path = PathIn(state.ProgramFolder, picture);
+  if (!FileExists(path) && state.BrakkaMode) path = PathIn(state.ProgramFolder / "brakka", picture);
+  if (FileExists(path)) {
+    host.ShowPicture(path);
+  } else {
+    host.Message("File " + AnsiFromPath(path) + " not found");
+  }
+}
+
+void specLabel_Click(ArmyState& state, Host& host, Int16 line) {
+  // A reset leaves the lines without their units until the grid is filled again.
+  if (state.Units.Buy[line].Tag.empty()) ShowSelectUnits(state);
+  if (state.Units.specLabel[line].Caption.empty()) return;
+  state.SpecUnitRow = StrictInt16(state.Units.Buy[line].Tag);
+  host.ShowSpecForm();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/host.h"
+#include "base/int16.h"
+#include "rules/army_state.h"
+
+namespace tarnwick {
+
+/// Fills the grid with the rows of `BaseUnits` that the view choice selects, the first 23 of them,
+/// and refreshes the counters. Moves no points.
+void ShowSelectUnits(ArmyState& state);
+
+/// Shows or hides the twelve controls of a grid line.
+void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
+
+/// Fills `ImageName(line)` with the pictures that fit what the line shows and selects the one
+/// chosen for `row`, else the first; that one then becomes the row's choice.
+void ShowUnitImages(ArmyState& state, Int16 line, Int16 row);
+
+/// Another view was chosen.
+void ViewOption_Click(ArmyState& state);
+
+/// A picture was selected in `ImageName(line)`, by the user or by code.
+void ImageName_Click(ArmyState& state, Int16 line);
+
+/// Shows the line's picture; without a selected picture nothing happens.
+void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line);
+
+/// Opens the special abilities of the line's unit when it has any.
+void specLabel_Click(ArmyState& state, Host& host, Int16 line);
+
+}  // namespace tarnwick
