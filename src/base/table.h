@@ -4,7 +4,7 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 #include "base/errors.h"
 #include "base/int16.h"
@@ -59,7 +59,7 @@ class ControlArray {
     return static_cast<std::size_t>(index.Value());
   }
 
-  std::vector<T> elements_{T{}};
+  std::deque<T> elements_{T{}};  // growing leaves the elements where they are
 };
 
 }  // namespace tarnwick

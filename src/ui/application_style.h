@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+class QApplication;
+
+namespace tarnwick {
+
+/// Gives the program its own light palette, whatever the desktop's theme.
+void ApplyStyle(QApplication& application);
+
+/// The one accent: the panel in front, the focus, selections.
+QColor AccentColour();
+
+/// A colour of the classic 16-colour palette. Those that the rules don't use show as black.
+QColor ClassicColour(int index);
+
+}  // namespace tarnwick

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/bindings.h"
+
+#include <QSignalBlocker>
+
+#include "ui/application_style.h"
+#include "ui/qt_text.h"
+
+namespace tarnwick {
+namespace {
+
+void ShowVisible(QWidget* widget, bool visible) {
+  if (widget->isHidden() == visible) widget->setVisible(visible);
+}
+
+void ShowColour(QWidget* widget, int foreColor) {
+  const QColor colour = ClassicColour(foreColor);
+  QPalette palette = widget->palette();
+  if (palette.color(QPalette::WindowText) == colour) return;
+  palette.setColor(QPalette::WindowText, colour);
+  widget->setPalette(palette);
+}
+
+void ShowChecked(QAbstractButton* button, bool checked) {
+  if (button->isChecked() != checked) button->setChecked(checked);
+}
+
+template <typename Button>
+void ShowCaption(Button* button, const QString& caption) {
+  if (button->text() != caption) button->setText(caption);
+}
+
+QStringList Texts(const ListBox& control) {
+  QStringList texts;
+  for (const ListEntry& entry : control.Entries) texts.append(ToQt(entry.Text));
+  return texts;
+}
+
+QStringList Texts(const QComboBox& widget) {
+  QStringList texts;
+  for (int i = 0; i < widget.count(); ++i) texts.append(widget.itemText(i));
+  return texts;
+}
+
+QStringList Texts(const QListWidget& widget) {
+  QStringList texts;
+  for (int i = 0; i < widget.count(); ++i) texts.append(widget.item(i)->text());
+  return texts;
+}
+
+}  // namespace
+
+void Bindings::Add(QLabel* widget, const Label& control) {
+  widget->setTextFormat(Qt::PlainText);
+  Add([widget, &control] {
+    ShowCaption(widget, ToQt(control.Caption));
+    ShowColour(widget, control.ForeColor);
+    ShowVisible(widget, control.Visible);
+  });
+}
+
+void Bindings::Add(QAbstractButton* widget, const Label& control) {
+  Add([widget, &control] {
+    ShowCaption(widget, ButtonText(control.Caption));
+    ShowVisible(widget, control.Visible);
+  });
+}
+
+void Bindings::Add(QLineEdit* widget, TextBox& control) {
+  const auto show = [widget, &control] {
+    const QString text = ToQt(control.Text);
+    if (widget->text() != text) {
+      const int cursor = widget->cursorPosition();
+      widget->setText(text);
+      widget->setCursorPosition(cursor);
+    }
+    ShowVisible(widget, control.Visible);
+  };
+  QObject::connect(widget, &QLineEdit::textEdited, widget, [&control, show](const QString& text) {
+    control.Text = FromQt(text);
+    show();  // what the code page does not know shows as what the file will hold
+  });
+  Add(show);
+}
+
+void Bindings::Add(QPlainTextEdit* widget, TextBox& control) {
+  QObject::connect(widget, &QPlainTextEdit::textChanged, widget,
+                   [widget, &control] { control.Text = FromQt(widget->toPlainText()); });
+  Add([widget, &control] {
+    const QString text = ToQt(control.Text);
+    if (widget->toPlainText() == text) return;
+    const QSignalBlocker quiet(widget);
+    widget->setPlainText(text);
+  });
+}
+
+void Bindings::Add(QCheckBox* widget, CheckBox& control) {
+  QObject::connect(widget, &QCheckBox::clicked, widget,
+                   [&control](bool checked) { control.Value = checked; });
+  Add([widget, &control] { ShowChecked(widget, control.Value); });
+}
+
+void Bindings::Add(QComboBox* widget, ListBox& control) {
+  QObject::connect(widget, &QComboBox::activated, widget,
+                   [&control](int index) { control.ListIndex = index; });
+  Add([widget, &control] {
+    const QStringList texts = Texts(control);
+    if (Texts(*widget) != texts) {
+      widget->clear();
+      widget->addItems(texts);
+    }
+    if (widget->currentIndex() != control.ListIndex) widget->setCurrentIndex(control.ListIndex);
+    ShowVisible(widget, control.Visible);
+  });
+}
+
+void Bindings::Add(QListWidget* widget, ListBox& control) {
+  QObject::connect(widget, &QListWidget::currentRowChanged, widget,
+                   [&control](int row) { control.ListIndex = row; });
+  Add([widget, &control] {
+    const QSignalBlocker quiet(widget);
+    const QStringList texts = Texts(control);
+    if (Texts(*widget) != texts) {
+      widget->clear();
+      widget->addItems(texts);
+    }
+    if (widget->currentRow() != control.ListIndex) widget->setCurrentRow(control.ListIndex);
+  });
+}
+
+void Bindings::AddVisible(QWidget* widget, const bool& visible) {
+  Add([widget, &visible] { ShowVisible(widget, visible); });
+}
+
+void Bindings::AddOptions(QButtonGroup* group, OptionButton* options, int count) {
+  QObject::connect(group, &QButtonGroup::idClicked, group, [options, count](int id) {
+    for (int i = 0; i < count; ++i) options[i].Value = i == id;
+  });
+  Add([group, options, count] {
+    group->setExclusive(false);  // an exclusive group can't be without a ticked option
+    for (int i = 0; i < count; ++i) {
+      QAbstractButton* button = group->button(i);
+      ShowCaption(button, ButtonText(options[i].Caption));
+      ShowChecked(button, options[i].Value);
+      ShowVisible(button, options[i].Visible);
+    }
+    group->setExclusive(true);
+  });
+}
+
+void Bindings::Refresh() const {
+  for (const auto& show : show_) show();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class QWidget;
+
+namespace tarnwick {
+
+/// Checks what was entered into a box before anything else happens when the user leaves the box:
+/// by Tab or Enter, by a click elsewhere, by a shortcut. A refused entry keeps the focus, with its
+/// text selected, and what the user was about to do does not happen. Enter goes on to the next
+/// box that is checked.
+class EntryGuard : public QObject {
+ public:
+  explicit EntryGuard(QObject* parent = nullptr);
+
+  /// `accepted` runs when `box` is left and says whether it may be.
+  void Watch(QWidget* box, std::function<bool()> accepted);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  QWidget* BoxInFocus() const;
+  bool Check(QWidget* box);
+  bool RefusesClick(QObject* object, QEvent* event);
+  bool RefusesKey(QWidget* box, QEvent* event);
+  void CheckLostFocus(QWidget* box, QEvent* event);
+
+  QHash<QObject*, std::function<bool()>> checks_;
+  QPointer<QWidget> passed_;  ///< accepted just now, about to lose the focus
+  bool checking_ = false;     ///< a check is under way, perhaps with its message on the screen
+};
+
+}  // namespace tarnwick

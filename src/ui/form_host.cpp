@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/form_host.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QMessageBox>
+
+#include "rules/unit_types.h"
+#include "ui/army_selection_dialog.h"
+#include "ui/leader_dialog.h"
+#include "ui/picture_form.h"
+#include "ui/qt_text.h"
+#include "ui/session.h"
+#include "ui/spec_dialog.h"
+
+namespace tarnwick {
+namespace {
+
+int ShowBox(const std::string& text, QMessageBox::StandardButtons buttons) {
+  QMessageBox box(QMessageBox::NoIcon, "Velmora Tarnwick", ToQt(text), buttons,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Ok);
+  return box.exec();
+}
+
+}  // namespace
+
+FormHost::~FormHost() { delete picture_; }
+
+void FormHost::Message(const std::string& text) { ShowBox(text, QMessageBox::Ok); }
+
+bool FormHost::Question(const std::string& text) {
+  return ShowBox(text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+void FormHost::ShowArmySelectionForm() {
+  ArmySelectionDialog(*session_, QApplication::activeWindow()).exec();
+}
+
+void FormHost::ShowLeaderMgmtForm() {
+  LeaderDialog(*session_, QApplication::activeWindow()).exec();
+}
+
+void FormHost::ShowSpecForm() {
+  SpecDialog(SpecialAbilitiesText(session_->Work.Army), QApplication::activeWindow()).exec();
+}
+
+void FormHost::ShowPicture(const std::filesystem::path& file) {
+  if (!picture_) picture_ = new PictureForm;
+  picture_->ShowPicture(file);
+}
+
+std::string FormHost::Today() { return FromQt(QDate::currentDate().toString(Qt::ISODate)); }
+
+}  // namespace tarnwick

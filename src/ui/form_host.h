@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+
+#include "base/host.h"
+
+class QMessageBox;
+class QWidget;
+
+namespace tarnwick {
+
+class PictureForm;
+class Session;
+
+/// The host that speaks through modal boxes and dialogs.
+class FormHost : public Host {
+ public:
+  FormHost() = default;
+  ~FormHost() override;
+
+  /// The dialogs work on `session`. Must be called before any of them is shown.
+  void Serve(Session& session) { session_ = &session; }
+
+  void Message(const std::string& text) override;
+  bool Question(const std::string& text) override;
+  void ShowArmySelectionForm() override;
+  void ShowLeaderMgmtForm() override;
+  void ShowSpecForm() override;
+  void ShowPicture(const std::filesystem::path& file) override;
+  std::string Today() override;
+
+ private:
+  Session* session_ = nullptr;
+  QPointer<PictureForm> picture_;
+};
+
+}  // namespace tarnwick

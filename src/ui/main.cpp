@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+
+#include "armyfile/working_army.h"
+#include "ui/application_style.h"
+#include "ui/form_host.h"
+#include "ui/main_form.h"
+#include "ui/session.h"
+
+int main(int argc, char* argv[]) {
+  using namespace tarnwick;
+  QApplication application(argc, argv);
+  ApplyStyle(application);
+
+  WorkingArmy work(QCoreApplication::applicationDirPath().toStdU16String());
+  FormHost host;
+  Session session(work, host);
+  host.Serve(session);
+  MainForm form(session);
+  if (!form.Start()) return 1;
+  form.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/main_form.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+#include "armyfile/saving.h"
+#include "ui/command_panel.h"
+#include "ui/detail_panel.h"
+#include "ui/management_panel.h"
+#include "ui/monster_panel.h"
+#include "ui/panel_button.h"
+#include "ui/qt_text.h"
+#include "ui/session.h"
+#include "ui/setup_panel.h"
+#include "ui/terrain_panel.h"
+#include "ui/units_panel.h"
+#include "ui/widgets.h"
+
+namespace tarnwick {
+
+MainForm::MainForm(Session& session) : session_(session) {
+  setObjectName("MainForm");
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(NewButtonColumn());
+  layout->addWidget(NewPanelStack(), 1);
+  session_.OnChange([this] { Refresh(); });
+}
+
+bool MainForm::Start() {
+  return session_.Run([this] { Form_Load(session_.Work); });
+}
+
+void MainForm::Refresh() {
+  const ArmyState& army = session_.Work.Army;
+  const QString title = ToQt(army.Title);
+  if (windowTitle() != title) setWindowTitle(title);
+  for (PanelWidget* panel : panels_) panel->Refresh();
+  if (editFrame_->currentIndex() != army.EditFrame.Front) {
+    editFrame_->setCurrentIndex(army.EditFrame.Front);
+  }
+  for (auto button = panelButtons_.cbegin(); button != panelButtons_.cend(); ++button) {
+    button.value()->setChecked(button.key() == army.EditFrame.Front);
+  }
+}
+
+QWidget* MainForm::NewButtonColumn() {
+  auto* column = new QWidget(this);
+  column->setAutoFillBackground(true);
+  column->setBackgroundRole(QPalette::Button);
+  auto* layout = new QVBoxLayout(column);
+  layout->setSpacing(2);
+  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units);
+  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command);
+  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail);
+  AddPanelButton(layout, "ShowTerrainBtn", "Terrain", Panel::Terrain);
+  AddPanelButton(layout, "ShowSetup", "Setup", Panel::Setup);
+  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management);
+  layout->addSpacing(16);
+  AddQuickSave(layout);
+  layout->addStretch();
+  AddHeaderButtons(layout);
+  return column;
+}
+
+void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char* caption,
+                              Panel panel) {
+  auto* button = new PanelButton(name, caption, this);
+  button->setCheckable(true);
+  column->addWidget(button);
+  panelButtons_.insert(static_cast<int>(panel), button);
+  connect(button, &QPushButton::clicked, this, [this, panel] {
+    session_.Run([this, panel] { ShowPanel(session_.Work.Army, panel); });
+  });
+}
+
+void MainForm::AddQuickSave(QVBoxLayout* column) {
+  auto* button = new PanelButton("QuickSave", "QuickSave", this);
+  column->addWidget(button);
+  connect(button, &QPushButton::clicked, this, &MainForm::Save);
+
+  auto* entry = Named(new QAction("QuickSave", this), "mQuickSave");
+  entry->setShortcut(QKeySequence::Save);
+  connect(entry, &QAction::triggered, this, &MainForm::Save);
+  addAction(entry);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
+}
+
+void MainForm::AddHeaderButtons(QVBoxLayout* column) {
+  const QString tip = "Edited on the panel Detail";
+  column->addWidget(NewIdleButton("HistoricalPeriod", "Define Historical Period", tip, this));
+  column->addWidget(NewIdleButton("SpecRulesBtn", "Special Rules", tip, this));
+  column->addWidget(NewIdleButton("DescriptionBtn", "Army description", tip, this));
+}
+
+QWidget* MainForm::NewPanelStack() {
+  auto* stack = new QWidget(this);
+  editFrame_ = new QStackedLayout(stack);
+  // In the order of Panel.
+  panels_ = {new UnitsPanelWidget(session_),      new CommandPanelWidget(session_),
+             new DetailPanelWidget(session_),     new TerrainPanelWidget(session_),
+             new ManagementPanelWidget(session_), new MonsterPanelWidget(session_),
+             new SetupPanelWidget(session_)};
+  for (PanelWidget* panel : panels_) editFrame_->addWidget(panel);
+  return stack;
+}
+
+void MainForm::Save() {
+  session_.Run([this] { SaveArmy(session_.Work, session_.User); });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+#include "rules/army_state.h"
+
+class QStackedLayout;
+class QVBoxLayout;
+
+namespace tarnwick {
+
+class PanelButton;
+class PanelWidget;
+class Session;
+
+/// The main window: the column of panel buttons and the stack of panels.
+class MainForm : public QWidget {
+ public:
+  explicit MainForm(Session& session);
+
+  /// Runs the start-up. False when a run-time error ended it.
+  bool Start();
+
+  /// Shows the whole state.
+  void Refresh();
+
+ private:
+  QWidget* NewButtonColumn();
+  void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel);
+  void AddQuickSave(QVBoxLayout* column);
+  void AddHeaderButtons(QVBoxLayout* column);
+  QWidget* NewPanelStack();
+  void Save();
+
+  Session& session_;
+  QHash<int, PanelButton*> panelButtons_;
+  std::vector<PanelWidget*> panels_;
+  QStackedLayout* editFrame_ = nullptr;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panel_widget.h"
+
+#include <QVBoxLayout>
+
+#include "ui/qt_text.h"
+#include "ui/widgets.h"
+
+namespace tarnwick {
+
+PanelWidget::PanelWidget(Panel panel, const QString& caption, Session& session)
+    : session_(session), body_(new QVBoxLayout(this)) {
+  setObjectName(ElementName("EditFrame", static_cast<int>(panel)));
+  auto* title = NewLabel("", caption, this);
+  QFont font = title->font();
+  font.setPointSizeF(font.pointSizeF() * 1.4);
+  font.setBold(true);
+  title->setFont(font);
+  body_->addWidget(title);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+#include <filesystem>
+
+namespace tarnwick {
+
+/// The window that shows one picture. It stays beside the main window and takes a further picture
+/// in the place of its first.
+class PictureForm : public QLabel {
+ public:
+  PictureForm();
+
+  /// Loads the picture, comes to the front and shows itself.
+  void ShowPicture(const std::filesystem::path& file);
+};
+
+}  // namespace tarnwick

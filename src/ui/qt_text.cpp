@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/qt_text.h"
+
+#include "base/ansi.h"
+#include "base/text.h"
+
+namespace tarnwick {
+
+QString ToQt(std::string_view ansi) {
+  QString text = QString::fromStdString(Utf8FromAnsi(ansi));
+  if (text.contains('\r')) {
+    text.replace(QLatin1String(NL.data(), NL.size()), "\n");
+    text.replace(QLatin1String(CrLf.data(), CrLf.size()), "\n");
+  }
+  return text;
+}
+
+std::string FromQt(const QString& text) {
+  return ReplaceText("\n", CrLf, AnsiFromUtf8(text.toStdString()));
+}
+
+QString ButtonText(std::string_view ansi) { return ToQt(ansi).replace("&", "&&"); }
+
+QString ElementName(const char* array, int index) {
+  return QString("%1(%2)").arg(QLatin1String(array)).arg(index);
+}
+
+}  // namespace tarnwick

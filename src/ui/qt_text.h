@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// A text of the state as Qt has it; any of the state's line breaks becomes "\n".
+QString ToQt(std::string_view ansi);
+
+/// A text of a widget as the state holds it; line breaks become CR LF.
+std::string FromQt(const QString& text);
+
+/// `text` for a button, whose "&" would otherwise mark a shortcut.
+QString ButtonText(std::string_view ansi);
+
+/// The object name of an array's element: "Buy(3)".
+QString ElementName(const char* array, int index);
+
+}  // namespace tarnwick

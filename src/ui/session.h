@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "armyfile/working_army.h"
+#include "base/host.h"
+#include "ui/entry_guard.h"
+
+namespace tarnwick {
+
+/// What every window of the program shares: the working army, the way to the user, and the one
+/// way through for events.
+class Session {
+ public:
+  Session(WorkingArmy& work, Host& host) : Work(work), User(host) {}
+
+  WorkingArmy& Work;
+  Host& User;
+  EntryGuard Guard;
+
+  /// Who shows the state after every event.
+  void OnChange(std::function<void()> refresh) { refresh_ = std::move(refresh); }
+
+  /// Runs an operation and shows the state. A run-time error that the operation does not catch is
+  /// named in a message box and ends the program with exit status 1; then the result is false.
+  bool Run(const std::function<void()>& operation);
+
+ private:
+  std::function<void()> refresh_ = [] {};
+};
+
+}  // namespace tarnwick

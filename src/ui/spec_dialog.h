@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <string>
+
+namespace tarnwick {
+
+/// The special abilities of a unit.
+class SpecDialog : public QDialog {
+ public:
+  SpecDialog(const std::string& text, QWidget* parent);
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+class QButtonGroup;
+
+namespace tarnwick {
+
+/// Gives a widget the name of its control.
+template <typename Widget, typename Name>
+Widget* Named(Widget* widget, const Name& name) {
+  widget->setObjectName(name);
+  return widget;
+}
+
+/// The width of `characters` digits in the widget's font.
+int TextWidth(const QWidget* widget, int characters);
+
+QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent);
+
+/// A label whose number stands on the right.
+QLabel* NewNumberLabel(const QString& name, QWidget* parent);
+
+/// A box that takes what one line of a file can hold.
+QLineEdit* NewTextBox(const QString& name, QWidget* parent);
+
+/// A box for a quantity; it takes no keystroke that makes the number leave 16 bits.
+QLineEdit* NewQuantityBox(const QString& name, QWidget* parent);
+
+/// A box of several lines that stops at what one line of a file can hold, when each of its line
+/// breaks takes `lineBreakSize` bytes there.
+QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent);
+
+QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent);
+
+/// A button without an action of its own. `tip` says where the thing is done.
+QPushButton* NewIdleButton(const QString& name, const QString& caption, const QString& tip,
+                           QWidget* parent);
+
+/// Option buttons `array`(0) to `array`(count − 1), exclusive, with their indices as ids.
+QButtonGroup* NewOptions(const char* array, int count, QWidget* parent);
+
+}  // namespace tarnwick

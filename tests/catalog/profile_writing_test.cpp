@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+#include "catalog/profile_files.h"
+#include "support/temp_folder.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using namespace std::string_view_literals;
+
+TEST(ProfileWriting, ChangesOneLineAndLeavesEveryOtherByte) {
+  const struct {
+    std::string_view Before, Section, Key, Value, After;
+  } cases[] = {
+      // A key that is there keeps its spelling and its place.
+      {"[S]\r\na=1\r\nKey = old \r\nb=2\r\n", "s", "KEY", "new", "[S]\r\na=1\r\nKey=new\r\nb=2\r\n"},
+      {"[s]\na=1\nb=2\n", "s", "a", "9", "[s]\na=9\r\nb=2\n"},
+      {"[s]\ra=1\rb=2\r", "s", "a", "9", "[s]\ra=9\r\nb=2\r"},
+      {"[s]\r\na=1", "s", "a", "9", "[s]\r\na=9\r\n"},
+      {"[s]\nk=1\nk=2\n", "s", "k", "9", "[s]\nk=9\r\nk=2\n"},
+      {"[t]\nk=1\n[s]\nk=2\n[u]\nk=3\n", "s", "k", "9", "[t]\nk=1\n[s]\nk=9\r\n[u]\nk=3\n"},
+      {"[\xC4]\n\xD6=1\n", "\xE4", "\xF6", "9", "[\xC4]\n\xD6=9\r\n"},
+      // What is no key is not taken for one.
+      {"[s]\n;k=1\nk\n", "s", "k", "9", "[s]\nk=9\r\n;k=1\nk\n"},
+      {"[s]\na=1\n;k=1\nb=2\n", "s", "k", "9", "[s]\na=1\n;k=1\nb=2\nk=9\r\n"},
+      {"k=1\n[s]\nb=2\n", "s", "k", "9", "k=1\n[s]\nb=2\nk=9\r\n"},
+      // Only the first section of a name counts.
+      {"[s]\na=1\n[s]\nk=2\n", "s", "k", "9", "[s]\na=1\nk=9\r\n[s]\nk=2\n"},
+      // A new key goes behind the last key line, before what ends the section.
+      {"[s]\r\na=1\r\n; end\r\n\r\n[t]\r\nk=1\r\n", "s", "k", "9",
+       "[s]\r\na=1\r\nk=9\r\n; end\r\n\r\n[t]\r\nk=1\r\n"},
+      {"[s]\r\n; only words\r\n\r\n[t]\r\n", "s", "k", "9",
+       "[s]\r\nk=9\r\n; only words\r\n\r\n[t]\r\n"},
+      {"[s]\r\na=1", "s", "k", "9", "[s]\r\na=1\r\nk=9\r\n"},
+      {"[s]", "s", "k", "9", "[s]\r\nk=9\r\n"},
+      {"[s", "s", "k", "9", "[s\r\nk=9\r\n"},
+      // A new section goes to the end, without an empty line.
+      {"[a]\r\nk=1\r\n", "s", "k", "9", "[a]\r\nk=1\r\n[s]\r\nk=9\r\n"},
+      {"[a]\nk=1\n\n; end\n\n", "s", "k", "9", "[a]\nk=1\n\n; end\n\n[s]\r\nk=9\r\n"},
+      {"[a]\r\nk=1", "s", "k", "9", "[a]\r\nk=1\r\n[s]\r\nk=9\r\n"},
+      {"\xEF\xBB\xBF[s]\nk=1\n", "s", "k", "9", "\xEF\xBB\xBF[s]\nk=1\n[s]\r\nk=9\r\n"},
+      {"", "s", "k", "9", "[s]\r\nk=9\r\n"},
+      // Spaces around new names are dropped, values are written as they are.
+      {"[a]\n", " SETUP 1 ", " New Key ", "  v ", "[a]\n[SETUP 1]\r\nNew Key=  v \r\n"},
+      {"[s]\nk=1\n", " s ", " K ", "\"v\"", "[s]\nk=\"v\"\r\n"},
+      {"[s]\nk=1\n", "s", "k", "", "[s]\nk=\r\n"},
+      // Bytes of every kind stay.
+      {"\x01\xFF\0[\r\n[s] x\n\v=\r\xA0\0k\nk=1\r[ ]\xFE"sv, "s", "k", "9",
+       "\x01\xFF\0[\r\n[s] x\n\v=\r\xA0\0k\nk=9\r\n[ ]\xFE"sv},
+  };
+  const TempFolder folder;
+  const fs::path file = folder / "file.dat";
+  for (const auto& c : cases) {
+    folder.Write("file.dat", c.Before);
+    ProfileFiles files;
+    EXPECT_NE(files.WriteIniString(c.Section, c.Key, c.Value, file), 0);
+    EXPECT_EQ(folder.Read("file.dat"), c.After);
+  }
+  fs::remove(file);
+  EXPECT_NE(ProfileFiles().WriteIniString("s", "k", "9", file), 0);
+  EXPECT_EQ(folder.Read("file.dat"), "[s]\r\nk=9\r\n");
+  EXPECT_FALSE(folder.Has("file.dat.new"));
+}
+
+TEST(ProfileWriting, WhatCanNotBeWrittenStaysAndIsA0) {
+  const TempFolder folder;
+  ProfileFiles files;
+  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "none/file.dat"), 0);
+  EXPECT_FALSE(folder.Has("none"));
+
+  folder.Write("folder.dat/inside", "kept");
+  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "folder.dat"), 0);
+  EXPECT_EQ(folder.Read("folder.dat/inside"), "kept");
+
+  folder.Write("file.dat", "[s]\nk=1\n");
+  fs::permissions(folder / "file.dat", fs::perms::owner_read);
+  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "file.dat"), 0);
+  EXPECT_EQ(folder.Read("file.dat"), "[s]\nk=1\n");
+  EXPECT_FALSE(folder.Has("file.dat.new"));
+}
+
+TEST(ProfileWriting, PermissionsOfTheSystemProtectTheFile) {
+  if (geteuid() == 0) GTEST_SKIP() << "nothing stops this user";
+  const TempFolder folder;
+  ProfileFiles files;
+  folder.Write("file.dat", "[s]\nk=1\n");
+  fs::permissions(folder / "file.dat", fs::perms::owner_write);  // unreadable
+  EXPECT_EQ(files.ReadIniString("s", "k", folder / "file.dat"), "");
+  EXPECT_EQ(files.WriteIniString("s", "j", "9", folder / "file.dat"), 0);
+  fs::permissions(folder / "file.dat", fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(folder.Read("file.dat"), "[s]\nk=1\n");
+
+  fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "file.dat"), 0);
+  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "other.dat"), 0);
+  fs::permissions(folder.Path(), fs::perms::owner_all);
+  EXPECT_EQ(folder.Read("file.dat"), "[s]\nk=1\n");
+}
+
+class KeptFiles : public testing::Test {
+ protected:
+  void Write(std::string_view value) {
+    folder_.Write("file.dat", std::string("[s]\nk=").append(value).append("\n"));
+  }
+  std::string Read() const { return files_.ReadIniString("s", "k", file_); }
+
+  TempFolder folder_;
+  fs::path file_ = folder_ / "file.dat";
+  ProfileFiles files_;
+};
+
+TEST_F(KeptFiles, ChangesBehindTheEditorsBackAreSeen) {
+  EXPECT_EQ(Read(), "");
+  Write("1");
+  EXPECT_EQ(Read(), "1");
+  fs::last_write_time(file_, fs::file_time_type::clock::now() - 1h - 1ms);
+  EXPECT_EQ(Read(), "1");
+  Write("2");
+  EXPECT_EQ(Read(), "2");
+  // An older file of the same size takes its place.
+  fs::last_write_time(file_, fs::file_time_type::clock::now() - 1h - 1ms);
+  EXPECT_EQ(Read(), "2");
+  Write("3");
+  fs::last_write_time(file_, fs::file_time_type::clock::now() - 2h);
+  EXPECT_EQ(Read(), "3");
+  fs::remove(file_);
+  EXPECT_EQ(Read(), "");
+}
+
+TEST_F(KeptFiles, ChangesThatTheTimeStampCanNotTellAreSeen) {
+  for (int i = 10; i < 99; ++i) {  // many a millisecond, all of one size
+    Write(std::to_string(i));
+    ASSERT_EQ(Read(), std::to_string(i));
+  }
+  // A file system that counts in whole seconds.
+  const auto stamp = std::chrono::floor<std::chrono::seconds>(fs::file_time_type::clock::now());
+  Write("1");
+  fs::last_write_time(file_, stamp);
+  EXPECT_EQ(Read(), "1");
+  Write("2");
+  fs::last_write_time(file_, stamp);
+  EXPECT_EQ(Read(), "2");
+}
+
+TEST_F(KeptFiles, OwnWritesAreSeenAtOnce) {
+  Write("1");
+  fs::last_write_time(file_, fs::file_time_type::clock::now() - 1h);
+  EXPECT_EQ(Read(), "1");
+  for (int i = 10; i < 30; ++i) {
+    ASSERT_NE(files_.WriteIniString("s", "k", std::to_string(i), file_), 0);
+    ASSERT_EQ(Read(), std::to_string(i));
+  }
+  // A write must not bring back what another program has replaced.
+  Write("5");
+  files_.WriteIniString("s", "j", "6", file_);
+  EXPECT_EQ(folder_.Read("file.dat"), "[s]\nk=5\nj=6\r\n");
+}
+
+TEST_F(KeptFiles, ManyFilesDoNotMixUp) {
+  for (int i = 0; i < 20; ++i) {
+    folder_.Write(std::to_string(i), "[s]\nk=" + std::to_string(i));
+    fs::last_write_time(folder_ / std::to_string(i), fs::file_time_type::clock::now() - 1h);
+  }
+  for (const int step : {1, 1, 7}) {
+    for (int i = 0; i < 20; ++i) {
+      const std::string name = std::to_string(i * step % 20);
+      EXPECT_EQ(files_.ReadIniString("s", "k", folder_ / name), name);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick

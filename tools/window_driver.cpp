@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "window_driver.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QWindow>
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace tarnwick {
+
+WindowDriver::WindowDriver() {
+  QObject::connect(&watch_, &QTimer::timeout, [this] { AnswerModal(); });
+  watch_.start(5);
+}
+
+QWidget* WindowDriver::FindWidget(const QString& name) {
+  QList<QWidget*> windows = QApplication::topLevelWidgets();
+  if (QWidget* front = QApplication::activeModalWidget()) windows.prepend(front);
+  for (QWidget* window : std::as_const(windows)) {
+    if (!window->isVisible()) continue;
+    if (window->objectName() == name) return window;
+    if (auto* found = window->findChild<QWidget*>(name)) return found;
+  }
+  return nullptr;
+}
+
+void WindowDriver::Fail(const QString& name) {
+  std::fprintf(stderr, "No control %s in the open windows\n", qPrintable(name));
+  std::abort();
+}
+
+void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
+  QWindow* window = widget.window()->windowHandle();
+  QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
+                    widget.mapTo(widget.window(), position));
+  Settle();
+}
+
+void WindowDriver::Click(const QString& name) {
+  QWidget& widget = Find(name);
+  // Near the left edge, where option buttons have their mark.
+  ClickAt(widget, QPoint(qMin(12, widget.width() / 2), widget.height() / 2));
+}
+
+void WindowDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(QApplication::activeWindow()->windowHandle(), key, modifiers);
+  Settle();
+}
+
+void WindowDriver::Type(const QString& text) {
+  for (const QChar c : text) {
+    if (c == '\n') {
+      Press(Qt::Key_Return);
+    } else {
+      QTest::sendKeyEvent(QTest::Click, QApplication::activeWindow()->windowHandle(),
+                          Qt::Key_unknown, c, Qt::NoModifier);
+    }
+  }
+  Settle();
+}
+
+void WindowDriver::Enter(const QString& name, const QString& text) {
+  Click(name);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_Delete);
+  Type(text);
+}
+
+void WindowDriver::Choose(const QString& name, int entry) {
+  auto& list = Find<QComboBox>(name);
+  Click(name);  // opens the list
+  if (list.currentIndex() != entry) {
+    Press(Qt::Key_Home);
+    for (int i = 0; i < entry; ++i) Press(Qt::Key_Down);
+  }
+  Press(Qt::Key_Return);
+}
+
+void WindowDriver::ClickEntry(const QString& name, int row, bool twice) {
+  auto& list = Find<QListWidget>(name);
+  list.scrollToItem(list.item(row));
+  const QPoint position = list.visualItemRect(list.item(row)).center();
+  ClickAt(*list.viewport(), position);
+  if (!twice) return;
+  QTest::mouseDClick(list.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                     list.viewport()->mapTo(list.window(), position));
+  Settle();
+}
+
+QStringList WindowDriver::TakeMessages() { return std::exchange(messages_, {}); }
+
+void WindowDriver::Settle() { QTest::qWait(1); }
+
+void WindowDriver::AnswerModal() {
+  QWidget* modal = QApplication::activeModalWidget();
+  if (modal == nullptr || modal == busyWith_ || !modal->isVisible()) return;
+  QWidget* const before = std::exchange(busyWith_, modal);
+  Settle();
+  if (see_) see_(*modal);
+  if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+    messages_.append(box->text());
+    const bool cancel = std::exchange(cancelNext_, false);
+    QAbstractButton* button = box->button(cancel ? QMessageBox::Cancel : QMessageBox::Ok);
+    if (button == nullptr) button = box->button(QMessageBox::Ok);
+    busyWith_ = before;
+    ClickAt(*button, button->rect().center());
+    return;
+  }
+  if (!scripts_.empty()) {
+    const Script script = std::move(scripts_.front());
+    scripts_.pop_front();
+    script();
+  }
+  if (QApplication::activeModalWidget() == modal) modal->close();
+  busyWith_ = before;
+}
+
+}  // namespace tarnwick
