@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
@@ -16,10 +17,36 @@
 #include <utility>
 
 namespace tarnwick {
+namespace {
 
-WindowDriver::WindowDriver() {
-  QObject::connect(&watch_, &QTimer::timeout, [this] { AnswerModal(); });
-  watch_.start(5);
+/// The window that a user would be typing into. Without a window manager nobody makes the one
+/// below active again when a dialog closes, so this does.
+QWindow* FrontWindow() {
+  QWidget* front = QApplication::activePopupWidget();
+  if (front == nullptr) front = QApplication::activeModalWidget();
+  if (front == nullptr) front = QApplication::activeWindow();
+  const QList<QWidget*> windows = QApplication::topLevelWidgets();
+  for (int i = 0; front == nullptr && i < windows.size(); ++i) {
+    if (windows[i]->isVisible()) front = windows[i];
+  }
+  if (!front->isActiveWindow() && QApplication::activePopupWidget() == nullptr) {
+    front->activateWindow();
+    QTest::qWait(1);
+  }
+  return front->windowHandle();
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver() { Watch(); }
+
+void WindowDriver::Watch() {
+  // A timer of its own each time: one that is being worked off does not fire again, and a dialog
+  // may open over the one that a script is working.
+  QTimer::singleShot(5, &timers_, [this] {
+    Watch();
+    AnswerModal();
+  });
 }
 
 QWidget* WindowDriver::FindWidget(const QString& name) {
@@ -52,7 +79,7 @@ void WindowDriver::Click(const QString& name) {
 }
 
 void WindowDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(QApplication::activeWindow()->windowHandle(), key, modifiers);
+  QTest::keyClick(FrontWindow(), key, modifiers);
   Settle();
 }
 
@@ -61,8 +88,7 @@ void WindowDriver::Type(const QString& text) {
     if (c == '\n') {
       Press(Qt::Key_Return);
     } else {
-      QTest::sendKeyEvent(QTest::Click, QApplication::activeWindow()->windowHandle(),
-                          Qt::Key_unknown, c, Qt::NoModifier);
+      QTest::sendKeyEvent(QTest::Click, FrontWindow(), Qt::Key_unknown, c, Qt::NoModifier);
     }
   }
   Settle();

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
 #include <QPoint>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -58,9 +58,10 @@ class WindowDriver {
  private:
   static QWidget* FindWidget(const QString& name);
   [[noreturn]] static void Fail(const QString& name);
+  void Watch();
   void AnswerModal();
 
-  QTimer watch_;
+  QObject timers_;  ///< ends the watch with the driver
   QStringList messages_;
   std::list<Script> scripts_;
   std::function<void(QWidget&)> see_;

@@ -49,6 +49,12 @@ QStringList Texts(const QListWidget& widget) {
   return texts;
 }
 
+/// −1 without a selection; the row that has the cursor need not be selected.
+int SelectedRow(const QListWidget& widget) {
+  const QList<QListWidgetItem*> selected = widget.selectedItems();
+  return selected.isEmpty() ? -1 : widget.row(selected.front());
+}
+
 }  // namespace
 
 void Bindings::Add(QLabel* widget, const Label& control) {
@@ -116,8 +122,8 @@ void Bindings::Add(QComboBox* widget, ListBox& control) {
 }
 
 void Bindings::Add(QListWidget* widget, ListBox& control) {
-  QObject::connect(widget, &QListWidget::currentRowChanged, widget,
-                   [&control](int row) { control.ListIndex = row; });
+  QObject::connect(widget, &QListWidget::itemSelectionChanged, widget,
+                   [widget, &control] { control.ListIndex = SelectedRow(*widget); });
   Add([widget, &control] {
     const QSignalBlocker quiet(widget);
     const QStringList texts = Texts(control);
@@ -125,7 +131,9 @@ void Bindings::Add(QListWidget* widget, ListBox& control) {
       widget->clear();
       widget->addItems(texts);
     }
-    if (widget->currentRow() != control.ListIndex) widget->setCurrentRow(control.ListIndex);
+    if (SelectedRow(*widget) == control.ListIndex) return;
+    widget->setCurrentRow(control.ListIndex);
+    if (!control.HasSelection()) widget->clearSelection();
   });
 }
 

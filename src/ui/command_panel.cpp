@@ -3,15 +3,34 @@
 #include "ui/command_panel.h"
 
 #include <QGridLayout>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include "rules/leaders.h"
 #include "rules/special_cards.h"
+#include "ui/application_style.h"
 #include "ui/qt_text.h"
 #include "ui/session.h"
 #include "ui/widgets.h"
 
 namespace tarnwick {
+namespace {
+
+/// A general's standard.
+QIcon StandardIcon() {
+  constexpr int side = 64;
+  QPixmap pixmap(side, side);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillRect(10, 4, 6, 58, Qt::darkGray);
+  painter.setBrush(AccentColour());
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(QPolygon({{16, 8}, {56, 8}, {46, 21}, {56, 34}, {16, 34}}));
+  return pixmap;
+}
+
+}  // namespace
 
 CommandPanelWidget::CommandPanelWidget(Session& session)
     : PanelWidget(Panel::Command, "Command", session) {
@@ -39,7 +58,7 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
     leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     layout->addWidget(leader);
   }
-  auto* define = Named(new QPushButton(QIcon(":/leader.svg"), "Add a new Leader", frame), "LeaderBtn");
+  auto* define = Named(new QPushButton(StandardIcon(), "Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
   layout->addSpacing(8);
   layout->addWidget(define, 0, Qt::AlignLeft);

@@ -33,7 +33,9 @@ MainForm::MainForm(Session& session) : session_(session) {
 }
 
 bool MainForm::Start() {
-  return session_.Run([this] { Form_Load(session_.Work); });
+  if (!session_.Run([this] { Form_Load(session_.Work); })) return false;
+  editFrame_->currentWidget()->setFocus();
+  return true;
 }
 
 void MainForm::Refresh() {

@@ -84,6 +84,7 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* save = add("SaveBtn", "Save Army");
   layout->addStretch();
   load->setEnabled(false);
+  setFocusProxy(newArmy);
   connect(newArmy, &QPushButton::clicked, this,
           [this] { session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.User); }); });
   connect(save, &QPushButton::clicked, this,

@@ -11,6 +11,7 @@ namespace tarnwick {
 
 PanelWidget::PanelWidget(Panel panel, const QString& caption, Session& session)
     : session_(session), body_(new QVBoxLayout(this)) {
+  body_->setContentsMargins(18, 12, 18, 12);
   setObjectName(ElementName("EditFrame", static_cast<int>(panel)));
   auto* title = NewLabel("", caption, this);
   QFont font = title->font();

@@ -104,6 +104,7 @@ QWidget* UnitsPanelWidget::NewGrid() {
   auto* layout = new QGridLayout(grid);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setVerticalSpacing(1);
+  layout->setHorizontalSpacing(12);
   AddGridHeadings(grid, layout);
   for (int line = 0; line < gridLines; ++line) AddGridLine(line, grid, layout);
   layout->setRowStretch(gridLines + 1, 1);
@@ -121,7 +122,8 @@ void UnitsPanelWidget::AddGridHeadings(QWidget* grid, QGridLayout* layout) {
     }
     layout->setColumnMinimumWidth(column, TextWidth(grid, heading.Characters));
   }
-  layout->setColumnStretch(image, 1);
+  layout->setColumnStretch(image, 3);
+  layout->setColumnStretch(static_cast<int>(headings.size()), 1);
 }
 
 void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout) {
@@ -160,6 +162,7 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
   pictures->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   pictures->setMinimumContentsLength(12);
+  pictures->setMaximumWidth(TextWidth(pictures, 40));
   pictures->setFocusPolicy(Qt::StrongFocus);
   put(pictures, image, units.ImageName[line]);
   connect(pictures, &QComboBox::activated, this, [this, line] {
