@@ -4,13 +4,12 @@
 // Drives the real window through a whole army on the shipped catalogs and leaves a picture of
 // every panel and dialog, and the saved army. Needs no display.
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+
+#include <QApplication>
+#include <QLabel>
 
 #include "ui/application_style.h"
 #include "ui/form_host.h"
@@ -33,6 +32,7 @@ class Tour {
     TakePicture(form_, "start");
     ChooseArmy();
     BuyUnits();
+    LookAtUnits();
     ChooseLeader();
     BuyCards();
     Describe();
@@ -43,8 +43,9 @@ class Tour {
  private:
   void TakePicture(QWidget& window, const QString& name) {
     WindowDriver::Settle();
-    const QString file = QString("%1-%2.png").arg(++count_, 2, 10, QChar('0')).arg(
-        name.isEmpty() ? "message" : name);
+    const QString file = QString("%1-%2.png")
+                             .arg(++count_, 2, 10, QChar('0'))
+                             .arg(name.isEmpty() ? "message" : name);
     if (!window.grab().save(QString::fromStdString((pictures_ / file.toStdString()).string()))) {
       Fail("The picture " + file + " could not be written");
     }
@@ -58,7 +59,8 @@ class Tour {
   /// The program has said just this since the last time.
   void Expect(const QStringList& messages) {
     const QStringList said = driver_.TakeMessages();
-    for (const QString& message : said) std::printf("  \"%s\"\n", qPrintable(message));
+    for (const QString& message : said)
+      std::printf("  \"%s\"\n", qPrintable(message));
     if (said != messages) Fail("expected \"" + messages.join("\", \"") + "\"");
   }
 
@@ -68,36 +70,20 @@ class Tour {
     }
   }
 
-  /// The line of the grid that now shows a unit of this type and class.
-  int Line(const QString& type, const QString& unitClass = "") {
-    for (int line = 0; line < 23; ++line) {
-      const auto text = [&](const char* column) {
-        return driver_.Find<QLabel>(QString("%1(%2)").arg(column).arg(line)).text();
-      };
-      if (text("TypeLabel") == type && text("ClassLabel") == unitClass) return line;
-    }
-    Fail("No line shows " + type + " " + unitClass);
-  }
-
-  void Buy(const QString& type, const QString& unitClass, const QString& quantity) {
-    driver_.Enter(QString("Buy(%1)").arg(Line(type, unitClass)), quantity);
+  void Buy(int line, const QString& quantity) {
+    driver_.Enter(QString("Buy(%1)").arg(line), quantity);
     driver_.Press(Qt::Key_Return);
   }
 
-  void ChooseArmy() {
-    std::puts("A new army out of the catalog");
-    driver_.OnDialog([this] {
-      driver_.Click("Command1");
-      driver_.ClickEntry("ArmyList", 0, true);
-    });
-    driver_.Click("NewArmyBtn");
-    Expect({"Please select one army"});
-    driver_.Enter("ArmyName", "Hannibal at the Trebia");
-    driver_.Enter("ArmyFileName", "Trebia");
-    TakePicture(form_, "army-management");
+  /// Corrects a refused entry: the box still has the focus, its text is selected.
+  void Correct(const QString& quantity) {
+    driver_.Type(quantity);
+    driver_.Press(Qt::Key_Return);
   }
 
+  void ChooseArmy();
   void BuyUnits();
+  void LookAtUnits();
   void ChooseLeader();
   void BuyCards();
   void Describe();
@@ -110,26 +96,123 @@ class Tour {
   int count_ = 0;
 };
 
+void Tour::ChooseArmy() {
+  std::puts("A new army out of the catalog");
+  driver_.OnDialog([this] {
+    driver_.Click("Command1");
+    driver_.ClickEntry("ArmyList", 0, true);
+  });
+  driver_.Click("NewArmyBtn");
+  Expect({"Please select one army"});
+  driver_.Enter("ArmyName", "Hannibal at the Trebia");
+  driver_.Enter("ArmyFileName", "Trebia");
+  TakePicture(form_, "army-management");
+}
+
 void Tour::BuyUnits() {
   std::puts("Units: one purchase beyond the maximum, one beyond the points");
   driver_.Click("ShowUnitsBtn");
-  driver_.Click("VerifyBtn");
+  Buy(0, "4");
+  Buy(1, "5");
+  Expect({"You can only buy 4 units"});
+  Correct("3");
+  Buy(4, "2");
+  Buy(8, "3");
+  Buy(9, "3");
   TakePicture(form_, "units-infantry");
-  std::puts(qPrintable(driver_.TakeMessages().join("\n")));
+  driver_.Click("VerifyBtn");
+  Expect({"You must buy at least 3 units of type LC or HC"});
+
+  driver_.Click("ViewOption(1)");
+  Buy(0, "3");
+  Buy(3, "2");
+  Buy(5, "4");
+  Buy(6, "1");
+  Expect({"Insufficient points left - max 0"});
+  Correct("0");
+  Buy(5, "2");
+  Buy(6, "1");
+  TakePicture(form_, "units-mounted");
+  ExpectText("TotalCost", "Points left: 45 of 400");
 }
 
-void Tour::ChooseLeader() {}
-void Tour::BuyCards() {}
-void Tour::Describe() {}
+void Tour::LookAtUnits() {
+  std::puts("What was bought, a unit's special abilities and its picture");
+  driver_.Click("ViewOption(2)");
+  TakePicture(form_, "units-bought");
+  driver_.OnDialog([this] { driver_.Click("Command1"); });
+  driver_.Click("specLabel(0)");
+  driver_.Click("ViewBtn(0)");
+  auto& picture = driver_.Find("PictureForm");
+  TakePicture(picture, "picture");
+  picture.close();
+  driver_.Click("VerifyBtn");
+  Expect({"Please select a Leader"});
+}
+
+void Tour::ChooseLeader() {
+  std::puts("A leader of the player's own");
+  driver_.Click("ShowCommandBtn");
+  driver_.Click("LeaderName(0)");
+  driver_.OnDialog([this] {
+    driver_.Enter("LeaderName", "Gisgo");
+    driver_.Choose("InitiativeBox", 1);
+    driver_.Choose("CommandBox", 1);
+    driver_.Press(Qt::Key_Tab);
+    driver_.Choose("CommandBox", 0);
+    TakePicture(driver_.Find("LeaderMgmtForm"), "leader");
+    driver_.Click("Command1");
+  });
+  driver_.Click("LeaderBtn");
+  Expect({"Only leaders with initiative = 7 can have 2 command points"});
+  driver_.Click("LeaderName(5)");
+}
+
+void Tour::BuyCards() {
+  std::puts("Special cards");
+  driver_.Enter("SpecBuy(0)", "2");
+  driver_.Enter("SpecBuy(1)", "9");
+  driver_.Press(Qt::Key_Tab);
+  Expect({"You can only buy 4 cards"});
+  Correct("1");
+  TakePicture(form_, "command");
+  driver_.Click("ShowUnitsBtn");
+  driver_.Click("VerifyBtn");
+  Expect({"Army is OK"});
+}
+
+void Tour::Describe() {
+  std::puts("Description, period, type and special rules");
+  driver_.Click("ShowDetailBtn");
+  driver_.Click("ArmyDesc");
+  driver_.Type("The river at the winter solstice.\nMago waits in the brushwood.");
+  driver_.Enter("FromData", "218");
+  driver_.Enter("ToData", "300");
+  driver_.Press(Qt::Key_Tab);
+  Expect({"the date must be successive to 218"});
+  Correct("201");
+  driver_.Click("Discipline");
+  driver_.Click("Mobility");
+  TakePicture(form_, "detail");
+}
 
 void Tour::LookAtTheOtherPanels() {
-  for (const char* button : {"ShowTerrainBtn", "ShowSetup"}) {
-    driver_.Click(button);
-    TakePicture(form_, button);
-  }
+  driver_.Click("ShowTerrainBtn");
+  TakePicture(form_, "terrain");
+  driver_.Click("ShowSetup");
+  TakePicture(form_, "setup");
 }
 
-void Tour::Save() {}
+void Tour::Save() {
+  std::puts("Saving, and not replacing what was saved");
+  driver_.Click("ShowSaveFrame");
+  driver_.Click("SaveBtn");
+  Expect({"Army Saved"});
+  driver_.CancelNextMessage();
+  driver_.Press(Qt::Key_S, Qt::ControlModifier);
+  Expect({"Do you want to replace the existing Trebia.army file ?"});
+  TakePicture(form_, "saved");
+}
 
 }  // namespace
 }  // namespace tarnwick
@@ -137,8 +220,10 @@ void Tour::Save() {}
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
   if (argc != 3) {
-    std::fputs("usage: tour DATA OUT\n  DATA  the folder of the catalogs\n"
-               "  OUT   takes the pictures and the saved army; made anew\n", stderr);
+    std::fputs(
+        "usage: tour DATA OUT\n  DATA  the folder of the catalogs\n"
+        "  OUT   takes the pictures and the saved army; made anew\n",
+        stderr);
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");

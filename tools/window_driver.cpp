@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "window_driver.h"
 
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -11,10 +15,6 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
-
-#include <cstdio>
-#include <cstdlib>
-#include <utility>
 
 namespace tarnwick {
 namespace {
@@ -38,7 +38,9 @@ QWindow* FrontWindow() {
 
 }  // namespace
 
-WindowDriver::WindowDriver() { Watch(); }
+WindowDriver::WindowDriver() {
+  Watch();
+}
 
 void WindowDriver::Watch() {
   // A timer of its own each time: one that is being worked off does not fire again, and a dialog
@@ -106,7 +108,8 @@ void WindowDriver::Choose(const QString& name, int entry) {
   Click(name);  // opens the list
   if (list.currentIndex() != entry) {
     Press(Qt::Key_Home);
-    for (int i = 0; i < entry; ++i) Press(Qt::Key_Down);
+    for (int i = 0; i < entry; ++i)
+      Press(Qt::Key_Down);
   }
   Press(Qt::Key_Return);
 }
@@ -122,9 +125,13 @@ void WindowDriver::ClickEntry(const QString& name, int row, bool twice) {
   Settle();
 }
 
-QStringList WindowDriver::TakeMessages() { return std::exchange(messages_, {}); }
+QStringList WindowDriver::TakeMessages() {
+  return std::exchange(messages_, {});
+}
 
-void WindowDriver::Settle() { QTest::qWait(1); }
+void WindowDriver::Settle() {
+  QTest::qWait(1);
+}
 
 void WindowDriver::AnswerModal() {
   QWidget* modal = QApplication::activeModalWidget();

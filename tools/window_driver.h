@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <list>
+
 #include <QObject>
 #include <QPoint>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
-
-#include <functional>
-#include <list>
 
 namespace tarnwick {
 

@@ -91,9 +91,13 @@ bool ToData_Validate(ArmyHeader& header, Host& host) {
   return refused;
 }
 
-void FromACBC_Click(ArmyHeader& header) { EraClicked(header); }
+void FromACBC_Click(ArmyHeader& header) {
+  EraClicked(header);
+}
 
-void toACBC_Click(ArmyHeader& header) { EraClicked(header); }
+void toACBC_Click(ArmyHeader& header) {
+  EraClicked(header);
+}
 
 void BuildPeriod(ArmyHeader& header) {
   const auto year = [](const TextBox& box, const Table<OptionButton, 0, 1>& era) {
@@ -120,7 +124,8 @@ std::string SpecialRulesText(const ArmyHeader& header) {
 }
 
 void ClearSpecialRules(ArmyHeader& header) {
-  for (const auto& rule : specialRules) (header.*rule.Box).Value = false;
+  for (const auto& rule : specialRules)
+    (header.*rule.Box).Value = false;
 }
 
 }  // namespace tarnwick

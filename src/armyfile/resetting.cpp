@@ -22,7 +22,8 @@ void ResetArmyData(WorkingArmy& work) {
   ArmyState& army = work.Army;
   army.GridFilling = true;
   army.SetupLoading = true;
-  for (Int16 r = 1; r <= army.TotUnits; ++r) army.BaseUnits[r].Bought = 0;
+  for (Int16 r = 1; r <= army.TotUnits; ++r)
+    army.BaseUnits[r].Bought = 0;
   EmptyGrid(army.Units);
   TickOption(army.Command.LeaderName, -1);
   army.SelectedLeader = -1;
@@ -45,6 +46,8 @@ void ResetArmyData(WorkingArmy& work) {
   ClearAreas(work.Field);
 }
 
-void ResetArmy_Click(WorkingArmy& work) { ResetArmyData(work); }
+void ResetArmy_Click(WorkingArmy& work) {
+  ResetArmyData(work);
+}
 
 }  // namespace tarnwick

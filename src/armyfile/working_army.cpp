@@ -13,7 +13,9 @@ void ReadImageCatalog(WorkingArmy& work) {
   LoadImages(army.Catalog, army.Files, army.ProgramFolder, army.BrakkaMode, work.Header.ArmyFile);
 }
 
-void TakeModule(ArmyState& army) { army.BrakkaMode = army.Management.modOption[1].Value; }
+void TakeModule(ArmyState& army) {
+  army.BrakkaMode = army.Management.modOption[1].Value;
+}
 
 }  // namespace
 

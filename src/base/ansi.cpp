@@ -16,7 +16,9 @@ constexpr std::array<char16_t, 32> upperControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr unsigned Byte(char c) { return static_cast<unsigned char>(c); }
+constexpr unsigned Byte(char c) {
+  return static_cast<unsigned char>(c);
+}
 
 char32_t CodePoint(char ansi) {
   const unsigned byte = Byte(ansi);
@@ -64,7 +66,8 @@ void AppendUtf8(std::string& utf8, char32_t codePoint) {
 }
 
 constexpr char LowerCaseOf(unsigned byte) {
-  const bool letter = (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
+  const bool letter =
+      (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
   if (letter) return static_cast<char>(byte + 0x20);
   switch (byte) {
     case 0x8A:  // S, Z with caron, OE
@@ -80,7 +83,8 @@ constexpr char LowerCaseOf(unsigned byte) {
 
 constexpr auto lowerCases = [] {
   std::array<char, 256> table{};
-  for (unsigned byte = 0; byte < table.size(); ++byte) table[byte] = LowerCaseOf(byte);
+  for (unsigned byte = 0; byte < table.size(); ++byte)
+    table[byte] = LowerCaseOf(byte);
   return table;
 }();
 
@@ -89,14 +93,16 @@ constexpr auto lowerCases = [] {
 std::string AnsiFromUtf8(std::string_view utf8) {
   std::string ansi;
   ansi.reserve(utf8.size());
-  while (!utf8.empty()) ansi += AnsiByte(TakeCodePoint(utf8));
+  while (!utf8.empty())
+    ansi += AnsiByte(TakeCodePoint(utf8));
   return ansi;
 }
 
 std::string Utf8FromAnsi(std::string_view ansi) {
   std::string utf8;
   utf8.reserve(ansi.size());
-  for (const char c : ansi) AppendUtf8(utf8, CodePoint(c));
+  for (const char c : ansi)
+    AppendUtf8(utf8, CodePoint(c));
   return utf8;
 }
 
@@ -111,7 +117,9 @@ std::string AnsiFromPath(const std::filesystem::path& path) {
   return AnsiFromUtf8(std::string(utf8.begin(), utf8.end()));
 }
 
-char LowerCase(char ansi) { return lowerCases[Byte(ansi)]; }
+char LowerCase(char ansi) {
+  return lowerCases[Byte(ansi)];
+}
 
 std::string LowerCase(std::string_view ansi) {
   std::string lower(ansi);

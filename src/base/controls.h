@@ -69,9 +69,7 @@ struct ListBox {
     Entries.clear();
     ListIndex = -1;
   }
-  void AddItem(const std::string& text, Int16 itemData = 0) {
-    Entries.push_back({text, itemData});
-  }
+  void AddItem(const std::string& text, Int16 itemData = 0) { Entries.push_back({text, itemData}); }
 };
 
 /// Panels of equal place and size, of which one is in front.

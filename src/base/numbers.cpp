@@ -22,7 +22,8 @@ std::string_view SkipBlanks(std::string_view text) {
 /// Moves over the digits at `at` and says how many there were.
 std::size_t SkipDigits(std::string_view text, std::size_t& at) {
   const std::size_t start = at;
-  while (at < text.size() && text[at] >= '0' && text[at] <= '9') ++at;
+  while (at < text.size() && text[at] >= '0' && text[at] <= '9')
+    ++at;
   return at - start;
 }
 
@@ -71,7 +72,9 @@ double LenientNumber(std::string_view text) {
   return TakeNumber(text).value_or(0);
 }
 
-Int16 LenientInt16(std::string_view text) { return RoundToInt16(LenientNumber(text)); }
+Int16 LenientInt16(std::string_view text) {
+  return RoundToInt16(LenientNumber(text));
+}
 
 double StrictNumber(std::string_view text) {
   text = SkipBlanks(text);
@@ -80,7 +83,9 @@ double StrictNumber(std::string_view text) {
   return *value;
 }
 
-Int16 StrictInt16(std::string_view text) { return RoundToInt16(StrictNumber(text)); }
+Int16 StrictInt16(std::string_view text) {
+  return RoundToInt16(StrictNumber(text));
+}
 
 Int16 RoundToInt16(double value) {
   const double rounded = std::nearbyint(value);  // the default mode rounds halves to even
@@ -88,11 +93,17 @@ Int16 RoundToInt16(double value) {
   return static_cast<int>(rounded);
 }
 
-double Int(double value) { return std::floor(value); }
+double Int(double value) {
+  return std::floor(value);
+}
 
-double RoundToCents(double value) { return std::nearbyint(value * 100) / 100; }
+double RoundToCents(double value) {
+  return std::nearbyint(value * 100) / 100;
+}
 
-std::string NumberText(Int16 value) { return std::to_string(value.Value()); }
+std::string NumberText(Int16 value) {
+  return std::to_string(value.Value());
+}
 
 std::string NumberText(double value) {
   constexpr int significantDigits = 15;

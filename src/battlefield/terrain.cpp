@@ -4,7 +4,9 @@
 
 namespace tarnwick {
 
-void ClearAreas(Battlefield& field) { field.AreaTerrain.Fill("CLEAR"); }
+void ClearAreas(Battlefield& field) {
+  field.AreaTerrain.Fill("CLEAR");
+}
 
 void InitTerrainKinds(Battlefield& field) {
   ClearAreas(field);
@@ -16,8 +18,7 @@ void InitTerrainKinds(Battlefield& field) {
   field.TerrainKinds[5] = {"CLIFF", 150, 0};
 }
 
-void SaveTerrain(const Battlefield& field, ProfileFiles& files,
-                 const std::filesystem::path& army) {
+void SaveTerrain(const Battlefield& field, ProfileFiles& files, const std::filesystem::path& army) {
   for (Int16 n = 1; n <= 9; ++n) {
     files.WriteIniString("TERRAIN", RowKey("area", n), field.AreaTerrain[n - 1], army);
   }

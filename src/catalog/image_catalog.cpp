@@ -21,8 +21,7 @@ void AppendImages(ImageCatalog& catalog, const ProfileFiles& files,
 }  // namespace
 
 ImageRec ParseImageRow(std::string_view row) {
-  return {GetField(row, 1), GetField(row, 2), GetField(row, 3), GetField(row, 4),
-          GetField(row, 5)};
+  return {GetField(row, 1), GetField(row, 2), GetField(row, 3), GetField(row, 4), GetField(row, 5)};
 }
 
 void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
@@ -33,8 +32,8 @@ void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
                programFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));
 
   // The army file is looked for in the program folder whatever the module.
-  std::string further = files.ReadIniString(
-      "ARMY", "images", PathIn(programFolder, std::string(armyFile) + ".army"));
+  std::string further =
+      files.ReadIniString("ARMY", "images", PathIn(programFolder, std::string(armyFile) + ".army"));
   if (further.empty() && brakkaMode) further = "images.dat";
   if (!further.empty()) AppendImages(catalog, files, PathIn(programFolder, further));
 }

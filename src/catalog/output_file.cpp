@@ -20,7 +20,9 @@ namespace fs = std::filesystem;
   throw FileError("File " + AnsiFromPath(file) + " cannot be written: " + reason.message());
 }
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
+std::error_code LastError() {
+  return {errno, std::generic_category()};
+}
 
 /// The file behind a link, so that writing changes it and not the link.
 fs::path BehindLinks(const fs::path& file) {
@@ -34,7 +36,8 @@ void CheckWritable(const fs::path& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   if (!fs::exists(status)) return;
-  constexpr auto anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  constexpr auto anyWrite =
+      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   if ((status.permissions() & anyWrite) == fs::perms::none) {
     ThrowFileError(file, std::make_error_code(std::errc::permission_denied));
   }
@@ -77,6 +80,8 @@ void OutputFile::Close() {
   closed_ = true;
 }
 
-void OutputFile::Fail() const { ThrowFileError(target_, LastError()); }
+void OutputFile::Fail() const {
+  ThrowFileError(target_, LastError());
+}
 
 }  // namespace tarnwick

@@ -75,8 +75,8 @@ ProfileFiles::KnownFile* ProfileFiles::Known(const fs::path& file) const {
   auto text = ReadText(file);
   if (!text) return nullptr;
   if (known_.size() == mostKnownFiles) known_.pop_back();
-  known_.insert(known_.begin(), std::make_unique<KnownFile>(
-                                    KnownFile{file, changedAt, settled, std::move(*text)}));
+  known_.insert(known_.begin(),
+                std::make_unique<KnownFile>(KnownFile{file, changedAt, settled, std::move(*text)}));
   return known_.front().get();
 }
 

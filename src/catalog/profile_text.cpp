@@ -62,7 +62,8 @@ std::size_t FindHeader(std::string_view text, std::size_t at) {
   const std::size_t start = at;
   while ((at = text.find('[', at)) != std::string_view::npos) {
     std::size_t line = at;
-    while (line > start && blanks.find(text[line - 1]) != std::string_view::npos) --line;
+    while (line > start && blanks.find(text[line - 1]) != std::string_view::npos)
+      --line;
     if (line == start || lineEnds.find(text[line - 1]) != std::string_view::npos) return line;
     ++at;
   }
@@ -73,7 +74,8 @@ std::size_t FindHeader(std::string_view text, std::size_t at) {
 
 std::size_t ProfileText::NameHash::operator()(std::string_view name) const {
   std::size_t hash = 14695981039346656037U;  // FNV-1a
-  for (const char c : name) hash = (hash ^ static_cast<unsigned char>(LowerCase(c))) * 1099511628211U;
+  for (const char c : name)
+    hash = (hash ^ static_cast<unsigned char>(LowerCase(c))) * 1099511628211U;
   return hash;
 }
 
@@ -114,7 +116,8 @@ std::optional<std::string_view> ProfileText::Find(std::string_view section, std:
   if (!values) {
     values.emplace();
     for (std::string_view rest = lines; !rest.empty();) {
-      if (const auto line = ParseKeyLine(TakeLine(rest))) values->try_emplace(line->Name, line->Value);
+      if (const auto line = ParseKeyLine(TakeLine(rest)))
+        values->try_emplace(line->Name, line->Value);
     }
   }
   const auto value = values->find(key);
@@ -152,8 +155,7 @@ std::string ProfileText::With(std::string_view section, std::string_view key,
              std::string(text_.substr(insertAt));
     }
   }
-  return withLineEnd(text_.substr(0, insertAt)) + lineOf(key) +
-         std::string(text_.substr(insertAt));
+  return withLineEnd(text_.substr(0, insertAt)) + lineOf(key) + std::string(text_.substr(insertAt));
 }
 
 }  // namespace tarnwick

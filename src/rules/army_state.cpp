@@ -15,9 +15,11 @@ std::string VersionText(const Version& version) {
 void InitializeVariables(ArmyState& state) {
   state.ArmyListFile = ModuleFolder(state) / "armylist.dat";
 
-  for (int k = 0; k <= 22; ++k) ShowGridLine(state.Units, k, false);
+  for (int k = 0; k <= 22; ++k)
+    ShowGridLine(state.Units, k, false);
   const char* const views[] = {"Infantry", "Mounted", "Buy"};
-  for (int i = 0; i < 3; ++i) state.Units.ViewOption[i].Caption = views[i];
+  for (int i = 0; i < 3; ++i)
+    state.Units.ViewOption[i].Caption = views[i];
   TickOption(state.Units.ViewOption, 0);
   state.Units.TotalCost.Caption = "Total: ";
   for (int i = 0; i <= 6; ++i) {
@@ -38,7 +40,9 @@ void InitializeVariables(ArmyState& state) {
   TickOption(state.Management.modOption, 0);
 }
 
-void ShowPanel(ArmyState& state, Panel panel) { state.EditFrame.Front = static_cast<int>(panel); }
+void ShowPanel(ArmyState& state, Panel panel) {
+  state.EditFrame.Front = static_cast<int>(panel);
+}
 
 std::filesystem::path ModuleFolder(const ArmyState& state) {
   return state.BrakkaMode ? state.ProgramFolder / "brakka" : state.ProgramFolder;

@@ -115,7 +115,8 @@ std::filesystem::path ModuleFolder(const ArmyState& state);
 /// Ticks one option of a group and unticks the others.
 template <int Last>
 void TickOption(Table<OptionButton, 0, Last>& group, Int16 index) {
-  for (int i = 0; i <= Last; ++i) group[i].Value = i == index;
+  for (int i = 0; i <= Last; ++i)
+    group[i].Value = i == index;
 }
 
 }  // namespace tarnwick

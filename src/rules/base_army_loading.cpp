@@ -96,7 +96,8 @@ void LoadLeaders(ArmyState& state, Host& host) {
     state.Leaders[i] = ParseLeaderRow(row);
     ShowLeader(state, i);
   }
-  for (Int16 i = state.LeaderCount; i <= 6; ++i) state.Command.LeaderName[i].Visible = false;
+  for (Int16 i = state.LeaderCount; i <= 6; ++i)
+    state.Command.LeaderName[i].Visible = false;
 }
 
 void LoadLimits(ArmyState& state) {

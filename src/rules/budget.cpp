@@ -11,8 +11,7 @@ namespace tarnwick {
 void ShowPoints(ArmyState& state) {
   state.Units.TotalCost.Caption =
       "Points left: " + NumberText(state.PointsLeft) + " of " + NumberText(state.ArmyPoints);
-  state.Command.LeaderFrame.Caption =
-      " Leaders (pts left: " + NumberText(state.CommandPts) + ")";
+  state.Command.LeaderFrame.Caption = " Leaders (pts left: " + NumberText(state.CommandPts) + ")";
   state.Title = PrintDeckInfo(state);
   state.Units.TQinfo.Caption = PrintTQInfo(state);
 }

@@ -39,8 +39,10 @@ void LeaderName_Click(ArmyState& state, Host& host, Int16 index) {
 }
 
 LeaderMgmtForm::LeaderMgmtForm() {
-  for (const char* initiative : {"4", "5", "6", "7"}) InitiativeBox.AddItem(initiative);
-  for (const char* command : {"1", "2"}) CommandBox.AddItem(command);
+  for (const char* initiative : {"4", "5", "6", "7"})
+    InitiativeBox.AddItem(initiative);
+  for (const char* command : {"1", "2"})
+    CommandBox.AddItem(command);
   leaderCost.Caption = "0";
 }
 

@@ -51,15 +51,16 @@ void ShowSelectUnits(ArmyState& state) {
     FillLine(state, n, r);
     ++n;
   }
-  for (; n < lines; ++n) ShowGridLine(state.Units, n, false);
+  for (; n < lines; ++n)
+    ShowGridLine(state.Units, n, false);
   state.GridFilling = false;
   ShowPoints(state);
 }
 
 void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
-  for (auto* column : {&grid.TypeLabel, &grid.ClassLabel, &grid.TQLabel, &grid.SizeLabel,
-                       &grid.MissileLabel, &grid.CostLabel, &grid.MaxLabel, &grid.UnitTotalLabel,
-                       &grid.specLabel}) {
+  for (auto* column :
+       {&grid.TypeLabel, &grid.ClassLabel, &grid.TQLabel, &grid.SizeLabel, &grid.MissileLabel,
+        &grid.CostLabel, &grid.MaxLabel, &grid.UnitTotalLabel, &grid.specLabel}) {
     (*column)[line].Visible = visible;
   }
   grid.Buy[line].Visible = visible;
@@ -88,7 +89,9 @@ void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
   state.SetupLoading = false;
 }
 
-void ViewOption_Click(ArmyState& state) { ShowSelectUnits(state); }
+void ViewOption_Click(ArmyState& state) {
+  ShowSelectUnits(state);
+}
 
 void ImageName_Click(ArmyState& state, Int16 line) {
   const std::string& tag = state.Units.Buy[line].Tag;

@@ -14,7 +14,8 @@ namespace tarnwick {
 /// quantity is not refused: it gives points back.
 bool BuyUnits(ArmyState& state, Host& host, Int16 index);
 
-/// The focus leaves `Buy(index)`. Returns true (cancel: the focus stays) when the entry was refused.
+/// The focus leaves `Buy(index)`. Returns true (cancel: the focus stays) when the entry was
+/// refused.
 bool Buy_Validate(ArmyState& state, Host& host, Int16 index);
 
 }  // namespace tarnwick

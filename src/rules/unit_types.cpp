@@ -15,15 +15,32 @@ namespace {
 
 /// Types whose class does not matter. The codes 2, 16 and 17 are free.
 constexpr std::array<std::pair<std::string_view, int>, 18> typeCodes = {{
-    {"PH", 1},   {"MI", 4},   {"BI", 5},   {"LP", 6},   {"SK", 8},   {"HC", 9},
-    {"RC", 10},  {"BC", 11},  {"LN", 12},  {"LC", 13},  {"EL", 14},  {"CH", 15},
-    {"GC", 18},  {"AS", 101}, {"YU", 102}, {"TP", 103}, {"KB", 104}, {"", 0},
+    {"PH", 1},
+    {"MI", 4},
+    {"BI", 5},
+    {"LP", 6},
+    {"SK", 8},
+    {"HC", 9},
+    {"RC", 10},
+    {"BC", 11},
+    {"LN", 12},
+    {"LC", 13},
+    {"EL", 14},
+    {"CH", 15},
+    {"GC", 18},
+    {"AS", 101},
+    {"YU", 102},
+    {"TP", 103},
+    {"KB", 104},
+    {"", 0},
 }};
 
 constexpr std::array<std::string_view, 9> mountedTypes = {"HC", "RC", "BC", "LN", "EL",
                                                           "LC", "CH", "GC", "KB"};
 
-SpecialAbilities Abilities(const ArmyState& state) { return {state.Files, state.ProgramFolder}; }
+SpecialAbilities Abilities(const ArmyState& state) {
+  return {state.Files, state.ProgramFolder};
+}
 
 }  // namespace
 

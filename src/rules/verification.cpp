@@ -51,6 +51,8 @@ bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
   return true;
 }
 
-void VerifyBtn_Click(const ArmyState& state, Host& host) { VerifyArmy(state, host, true); }
+void VerifyBtn_Click(const ArmyState& state, Host& host) {
+  VerifyArmy(state, host, true);
+}
 
 }  // namespace tarnwick

@@ -8,7 +8,9 @@
 
 namespace tarnwick {
 
-QColor AccentColour() { return {0x0B, 0x6E, 0x6E}; }
+QColor AccentColour() {
+  return {0x0B, 0x6E, 0x6E};
+}
 
 QColor ClassicColour(int index) {
   constexpr int lightBlue = 9;

@@ -33,19 +33,22 @@ void ShowCaption(Button* button, const QString& caption) {
 
 QStringList Texts(const ListBox& control) {
   QStringList texts;
-  for (const ListEntry& entry : control.Entries) texts.append(ToQt(entry.Text));
+  for (const ListEntry& entry : control.Entries)
+    texts.append(ToQt(entry.Text));
   return texts;
 }
 
 QStringList Texts(const QComboBox& widget) {
   QStringList texts;
-  for (int i = 0; i < widget.count(); ++i) texts.append(widget.itemText(i));
+  for (int i = 0; i < widget.count(); ++i)
+    texts.append(widget.itemText(i));
   return texts;
 }
 
 QStringList Texts(const QListWidget& widget) {
   QStringList texts;
-  for (int i = 0; i < widget.count(); ++i) texts.append(widget.item(i)->text());
+  for (int i = 0; i < widget.count(); ++i)
+    texts.append(widget.item(i)->text());
   return texts;
 }
 
@@ -143,7 +146,8 @@ void Bindings::AddVisible(QWidget* widget, const bool& visible) {
 
 void Bindings::AddOptions(QButtonGroup* group, OptionButton* options, int count) {
   QObject::connect(group, &QButtonGroup::idClicked, group, [options, count](int id) {
-    for (int i = 0; i < count; ++i) options[i].Value = i == id;
+    for (int i = 0; i < count; ++i)
+      options[i].Value = i == id;
   });
   Add([group, options, count] {
     group->setExclusive(false);  // an exclusive group can't be without a ticked option
@@ -158,7 +162,8 @@ void Bindings::AddOptions(QButtonGroup* group, OptionButton* options, int count)
 }
 
 void Bindings::Refresh() const {
-  for (const auto& show : show_) show();
+  for (const auto& show : show_)
+    show();
 }
 
 }  // namespace tarnwick

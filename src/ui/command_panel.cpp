@@ -42,7 +42,8 @@ CommandPanelWidget::CommandPanelWidget(Session& session)
 }
 
 void CommandPanelWidget::Refresh() {
-  while (cardRowCount_ < session_.Work.Army.Command.SpecBuy.Count()) AddCardRow();
+  while (cardRowCount_ < session_.Work.Army.Command.SpecBuy.Count())
+    AddCardRow();
   PanelWidget::Refresh();
 }
 

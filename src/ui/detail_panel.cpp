@@ -56,7 +56,8 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     year->setFixedWidth(TextWidth(year, 8));
     row->addWidget(year);
     QButtonGroup* eras = NewOptions(eraName, 2, half);
-    for (QAbstractButton* option : eras->buttons()) row->addWidget(option);
+    for (QAbstractButton* option : eras->buttons())
+      row->addWidget(option);
     layout->addWidget(half);
 
     bindings_.Add(year, box);
@@ -72,8 +73,8 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
   add("Frame9", "Label30", "From:", "FromData", header.FromData, FromData_Validate, "FromACBC",
       header.FromACBC, FromACBC_Click);
   layout->addSpacing(16);
-  add("Frame8", "Label29", "To:", "ToData", header.ToData, ToData_Validate, "toACBC",
-      header.toACBC, toACBC_Click);
+  add("Frame8", "Label29", "To:", "ToData", header.ToData, ToData_Validate, "toACBC", header.toACBC,
+      toACBC_Click);
   return frame;
 }
 

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/entry_guard.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QWindow>
-
-#include <utility>
 
 namespace tarnwick {
 namespace {
@@ -23,7 +23,9 @@ QWidget* ClickedWidget(QObject* object, const QMouseEvent& event) {
 
 }  // namespace
 
-EntryGuard::EntryGuard(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
+EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
+  qApp->installEventFilter(this);
+}
 
 void EntryGuard::Watch(QWidget* box, std::function<bool()> accepted) {
   checks_.insert(box, std::move(accepted));

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
-
-#include <functional>
 
 class QWidget;
 

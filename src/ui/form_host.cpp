@@ -27,9 +27,13 @@ int ShowBox(const std::string& text, QMessageBox::StandardButtons buttons) {
 
 }  // namespace
 
-FormHost::~FormHost() { delete picture_; }
+FormHost::~FormHost() {
+  delete picture_;
+}
 
-void FormHost::Message(const std::string& text) { ShowBox(text, QMessageBox::Ok); }
+void FormHost::Message(const std::string& text) {
+  ShowBox(text, QMessageBox::Ok);
+}
 
 bool FormHost::Question(const std::string& text) {
   return ShowBox(text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
@@ -52,6 +56,8 @@ void FormHost::ShowPicture(const std::filesystem::path& file) {
   picture_->ShowPicture(file);
 }
 
-std::string FormHost::Today() { return FromQt(QDate::currentDate().toString(Qt::ISODate)); }
+std::string FormHost::Today() {
+  return FromQt(QDate::currentDate().toString(Qt::ISODate));
+}
 
 }  // namespace tarnwick

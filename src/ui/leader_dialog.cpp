@@ -10,8 +10,7 @@
 
 namespace tarnwick {
 
-LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
-    : QDialog(parent), session_(session) {
+LeaderDialog::LeaderDialog(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
   setObjectName("LeaderMgmtForm");
   setWindowTitle("LeaderMgmt");
   auto* name = NewTextBox("LeaderName", this);
@@ -40,7 +39,8 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
   bindings_.Refresh();
 
   for (const QComboBox* list : {initiative, command}) {
-    connect(list, &QComboBox::activated, this, [this] { Run([this] { UpdateLeaderCost(form_); }); });
+    connect(list, &QComboBox::activated, this,
+            [this] { Run([this] { UpdateLeaderCost(form_); }); });
   }
   session_.Guard.Watch(command, [this] {
     bool refused = false;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDialog>
-
 #include <functional>
+
+#include <QDialog>
 
 #include "rules/leaders.h"
 #include "ui/bindings.h"

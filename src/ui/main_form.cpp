@@ -42,7 +42,8 @@ void MainForm::Refresh() {
   const ArmyState& army = session_.Work.Army;
   const QString title = ToQt(army.Title);
   if (windowTitle() != title) setWindowTitle(title);
-  for (PanelWidget* panel : panels_) panel->Refresh();
+  for (PanelWidget* panel : panels_)
+    panel->Refresh();
   if (editFrame_->currentIndex() != army.EditFrame.Front) {
     editFrame_->setCurrentIndex(army.EditFrame.Front);
   }
@@ -76,9 +77,8 @@ void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char*
   button->setCheckable(true);
   column->addWidget(button);
   panelButtons_.insert(static_cast<int>(panel), button);
-  connect(button, &QPushButton::clicked, this, [this, panel] {
-    session_.Run([this, panel] { ShowPanel(session_.Work.Army, panel); });
-  });
+  connect(button, &QPushButton::clicked, this,
+          [this, panel] { session_.Run([this, panel] { ShowPanel(session_.Work.Army, panel); }); });
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {
@@ -91,7 +91,8 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
   connect(entry, &QAction::triggered, this, &MainForm::Save);
   addAction(entry);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
+  button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +
+                     ")");
 }
 
 void MainForm::AddHeaderButtons(QVBoxLayout* column) {
@@ -109,7 +110,8 @@ QWidget* MainForm::NewPanelStack() {
              new DetailPanelWidget(session_),     new TerrainPanelWidget(session_),
              new ManagementPanelWidget(session_), new MonsterPanelWidget(session_),
              new SetupPanelWidget(session_)};
-  for (PanelWidget* panel : panels_) editFrame_->addWidget(panel);
+  for (PanelWidget* panel : panels_)
+    editFrame_->addWidget(panel);
   return stack;
 }
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QHash>
-#include <QWidget>
-
 #include <functional>
 #include <vector>
+
+#include <QHash>
+#include <QWidget>
 
 #include "rules/army_state.h"
 

@@ -32,7 +32,8 @@ QWidget* ManagementPanelWidget::NewModuleFrame() {
   auto* frame = NewFrame("Frame10", "Module", this);
   auto* layout = new QHBoxLayout(frame);
   QButtonGroup* modules = NewOptions("modOption", 2, frame);
-  for (QAbstractButton* option : modules->buttons()) layout->addWidget(option);
+  for (QAbstractButton* option : modules->buttons())
+    layout->addWidget(option);
   layout->addStretch();
   bindings_.Add(modules, session_.Work.Army.Management.modOption);
   connect(modules, &QButtonGroup::idClicked, this,

@@ -32,8 +32,9 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
     fill.setAlpha(isDown() ? 70 : 35);
   }
   painter.setBrush(fill);
-  painter.setPen(hasFocus() ? QPen(isChecked() ? palette().color(QPalette::Text) : AccentColour(), 2)
-                            : QPen(Qt::NoPen));
+  painter.setPen(hasFocus()
+                     ? QPen(isChecked() ? palette().color(QPalette::Text) : AccentColour(), 2)
+                     : QPen(Qt::NoPen));
   painter.drawRoundedRect(area, 5, 5);
   painter.setPen(isChecked() ? Qt::white : palette().color(QPalette::ButtonText));
   painter.drawText(area.adjusted(fontMetrics().height(), 0, 0, 0),

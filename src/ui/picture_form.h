@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
-
 #include <filesystem>
+
+#include <QLabel>
 
 namespace tarnwick {
 

@@ -20,7 +20,9 @@ std::string FromQt(const QString& text) {
   return ReplaceText("\n", CrLf, AnsiFromUtf8(text.toStdString()));
 }
 
-QString ButtonText(std::string_view ansi) { return ToQt(ansi).replace("&", "&&"); }
+QString ButtonText(std::string_view ansi) {
+  return ToQt(ansi).replace("&", "&&");
+}
 
 QString ElementName(const char* array, int index) {
   return QString("%1(%2)").arg(QLatin1String(array)).arg(index);

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
 #include <string>
 #include <string_view>
+
+#include <QString>
 
 namespace tarnwick {
 

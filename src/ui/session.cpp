@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/session.h"
 
-#include <QCoreApplication>
-
 #include <string>
+
+#include <QCoreApplication>
 
 #include "base/errors.h"
 

@@ -11,8 +11,7 @@
 
 namespace tarnwick {
 
-SetupPanelWidget::SetupPanelWidget(Session& session)
-    : PanelWidget(Panel::Setup, "Setup", session) {
+SetupPanelWidget::SetupPanelWidget(Session& session) : PanelWidget(Panel::Setup, "Setup", session) {
   auto* row = new QHBoxLayout;
   auto* side = new QVBoxLayout;
   side->addWidget(Named(new QListWidget(this), "setupList"));
@@ -26,8 +25,8 @@ SetupPanelWidget::SetupPanelWidget(Session& session)
 QWidget* SetupPanelWidget::NewSetupFrame() {
   auto* frame = NewFrame("setupFramePanel", "", this);
   auto* layout = new QGridLayout(frame);
-  const char* const zones[] = {"Left", "Left", "Centre", "Centre", "Centre",
-                               "Centre", "Centre", "Right", "Right"};
+  const char* const zones[] = {"Left",   "Left",   "Centre", "Centre", "Centre",
+                               "Centre", "Centre", "Right",  "Right"};
   for (int place = 0; place < 9; ++place) {
     layout->addWidget(NewLabel("Label1", zones[place], frame), place, 0);
     layout->addWidget(NewIdleButton(ElementName("assignBtn", place), "<->", "", frame), place, 1);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDialog>
-
 #include <string>
+
+#include <QDialog>
 
 namespace tarnwick {
 

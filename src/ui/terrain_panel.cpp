@@ -23,8 +23,8 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
   row->addWidget(NewAreas(), 0, Qt::AlignTop);
   auto* side = new QVBoxLayout;
   side->addWidget(NewPointsFrame());
-  side->addWidget(NewIdleButton("Command2", "Update",
-                                "Points and areas are always up to date", this));
+  side->addWidget(
+      NewIdleButton("Command2", "Update", "Points and areas are always up to date", this));
   side->addStretch();
   row->addLayout(side);
   row->addStretch();
@@ -33,7 +33,7 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
 }
 
 QWidget* TerrainPanelWidget::NewPalette() {
-  const char* const captions[] = {"Clear",          "Slope  30ap/5cp",     "Camp 60ap/10cp",
+  const char* const captions[] = {"Clear",         "Slope  30ap/5cp",    "Camp 60ap/10cp",
                                   "Wood 20ap/0cp", "Mountain 50ap/15cp", "Cliff 150ap/0cp"};
   auto* palette = new QWidget(this);
   auto* layout = new QGridLayout(palette);
@@ -43,7 +43,8 @@ QWidget* TerrainPanelWidget::NewPalette() {
     piece->setFixedSize(pieceSize);
     piece->setFrameStyle(QFrame::StyledPanel);
     layout->addWidget(piece, kind, 0);
-    layout->addWidget(NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette), kind, 1);
+    layout->addWidget(NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette), kind,
+                      1);
   }
   return palette;
 }

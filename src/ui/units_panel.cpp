@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/units_panel.h"
 
+#include <array>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <array>
 
 #include "armyfile/resetting.h"
 #include "rules/unit_grid.h"
@@ -21,7 +21,20 @@ namespace tarnwick {
 namespace {
 
 /// The grid's columns from left to right, the last two without a heading of their own in the rules.
-enum Column { type, unitClass, tq, unitSize, missile, cost, most, total, buy, image, view, special };
+enum Column {
+  type,
+  unitClass,
+  tq,
+  unitSize,
+  missile,
+  cost,
+  most,
+  total,
+  buy,
+  image,
+  view,
+  special
+};
 
 struct Heading {
   const char* Name;
@@ -48,8 +61,7 @@ constexpr int limitLines = 7;
 
 }  // namespace
 
-UnitsPanelWidget::UnitsPanelWidget(Session& session)
-    : PanelWidget(Panel::Units, "Units", session) {
+UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units, "Units", session) {
   auto* top = new QHBoxLayout;
   top->addWidget(NewViewFrame());
   top->addWidget(NewSummaryFrame(), 1);
@@ -67,9 +79,8 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session)
   middle->addLayout(side);
   Body()->addLayout(middle, 1);
 
-  connect(verify, &QPushButton::clicked, this, [this] {
-    session_.Run([this] { VerifyBtn_Click(session_.Work.Army, session_.User); });
-  });
+  connect(verify, &QPushButton::clicked, this,
+          [this] { session_.Run([this] { VerifyBtn_Click(session_.Work.Army, session_.User); }); });
   connect(reset, &QPushButton::clicked, this,
           [this] { session_.Run([this] { ResetArmy_Click(session_.Work); }); });
 }
@@ -78,7 +89,8 @@ QWidget* UnitsPanelWidget::NewViewFrame() {
   auto* frame = NewFrame("Frame4", "View ", this);
   auto* layout = new QHBoxLayout(frame);
   QButtonGroup* views = NewOptions("ViewOption", 3, frame);
-  for (QAbstractButton* option : views->buttons()) layout->addWidget(option);
+  for (QAbstractButton* option : views->buttons())
+    layout->addWidget(option);
   bindings_.Add(views, session_.Work.Army.Units.ViewOption);
   connect(views, &QButtonGroup::idClicked, this,
           [this] { session_.Run([this] { ViewOption_Click(session_.Work.Army); }); });
@@ -106,7 +118,8 @@ QWidget* UnitsPanelWidget::NewGrid() {
   layout->setVerticalSpacing(1);
   layout->setHorizontalSpacing(12);
   AddGridHeadings(grid, layout);
-  for (int line = 0; line < gridLines; ++line) AddGridLine(line, grid, layout);
+  for (int line = 0; line < gridLines; ++line)
+    AddGridLine(line, grid, layout);
   layout->setRowStretch(gridLines + 1, 1);
   return grid;
 }
@@ -197,7 +210,8 @@ QWidget* UnitsPanelWidget::NewLimitsFrame() {
   auto* layout = new QGridLayout(frame);
   auto* type = NewLabel("Label2", "Type", frame);
   auto* minimum = NewLabel("Label3", "Min", frame);
-  for (QLabel* heading : {type, minimum}) heading->setForegroundRole(QPalette::PlaceholderText);
+  for (QLabel* heading : {type, minimum})
+    heading->setForegroundRole(QPalette::PlaceholderText);
   layout->addWidget(type, 0, 0);
   layout->addWidget(minimum, 0, 1, Qt::AlignRight);
   for (int line = 0; line < limitLines; ++line) {

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets.h"
 
+#include <algorithm>
+
 #include <QButtonGroup>
 #include <QRadioButton>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QValidator>
-
-#include <algorithm>
 
 #include "base/errors.h"
 #include "base/numbers.h"
@@ -55,7 +55,8 @@ class DescriptionBox : public QPlainTextEdit {
   /// Takes off the end of what was typed or pasted as much as the line of the file can't hold.
   void CutInsertion() {
     while (inserted_ > 0 && StoredSize() > longestValue) {
-      const int cut = std::min(inserted_, std::max(1, (StoredSize() - longestValue) / lineBreakSize_));
+      const int cut =
+          std::min(inserted_, std::max(1, (StoredSize() - longestValue) / lineBreakSize_));
       const int end = insertedEnd_;
       const int left = inserted_ - cut;
       QTextCursor cursor(document());

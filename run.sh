@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the editor and opens it. Without a display it drives the
+# editor's window through a whole army instead and leaves pictures of it.
+cd "$(dirname "$0")"
+source tools/set-up
+
+need_to_run
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  build release tarnwick
+  say "Opening the editor; armies are saved in $PWD/program"
+  exec program/tarnwick
+fi
+build release tarnwick tour
+say "No display: driving the window through a whole army"
+exec build/release/tools/tour data build/tour
