@@ -17,9 +17,8 @@
 namespace tarnwick {
 namespace {
 
-int ShowBox(const std::string& text, QMessageBox::StandardButtons buttons) {
-  QMessageBox box(QMessageBox::NoIcon, "Velmora Tarnwick", ToQt(text), buttons,
-                  QApplication::activeWindow());
+int ShowBox(QMessageBox::Icon icon, const std::string& text, QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, "Velmora Tarnwick", ToQt(text), buttons, QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::Ok);
   return box.exec();
@@ -36,7 +35,8 @@ void FormHost::Message(const std::string& text) {
 }
 
 bool FormHost::Question(const std::string& text) {
-  return ShowBox(text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+  return ShowBox(QMessageBox::Question, text, QMessageBox::Ok | QMessageBox::Cancel) ==
+         QMessageBox::Ok;
 }
 
 void FormHost::ShowArmySelectionForm() {
