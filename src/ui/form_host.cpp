@@ -31,7 +31,7 @@ FormHost::~FormHost() {
 }
 
 void FormHost::Message(const std::string& text) {
-  ShowBox(text, QMessageBox::Ok);
+  ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
 }
 
 bool FormHost::Question(const std::string& text) {

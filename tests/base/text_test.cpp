@@ -17,14 +17,12 @@ TEST(GetField, PicksFieldsAsTheyStand) {
     int N;
     const char* Separator;
     const char* Field;
-  } cases[] = {
-      {"HI,,6", 1, ",", "HI"},  {"HI,,6", 2, ",", ""},       {"HI,,6", 3, ",", "6"},
-      {"HI,,6", 4, ",", ""},    {"HI", 2, ",", ""},          {"HI,", 2, ",", ""},
-      {"", 1, ",", ""},         {"", 2, ",", ""},            {"a b , c", 1, ",", "a b "},
-      {"a b , c", 2, ",", " c"}, {"HI+MI", 2, "+", "MI"},    {"HI", 1, "+", "HI"},
-      {"a,b", 2, "", "b"},      {"a,b+c", 1, "+", "a,b"},    {"a,b", 0, ",", ""},
-      {"a,b", -1, ",", ""},     {",b", 1, ",", ""},          {"a,b", 32767, ",", ""},
-  };
+  } cases[] = {{"HI,,6", 1, ",", "HI"},   {"HI,,6", 2, ",", ""},    {"HI,,6", 3, ",", "6"},
+               {"HI,,6", 4, ",", ""},     {"HI", 2, ",", ""},       {"HI,", 2, ",", ""},
+               {"", 1, ",", ""},          {"", 2, ",", ""},         {"a b , c", 1, ",", "a b "},
+               {"a b , c", 2, ",", " c"}, {"HI+MI", 2, "+", "MI"},  {"HI", 1, "+", "HI"},
+               {"a,b", 2, "", "b"},       {"a,b+c", 1, "+", "a,b"}, {"a,b", 0, ",", ""},
+               {"a,b", -1, ",", ""},      {",b", 1, ",", ""},       {"a,b", 32767, ",", ""}};
   for (const auto& c : cases) {
     EXPECT_EQ(GetField(c.Text, c.N, c.Separator), c.Field) << c.Text << " field " << c.N;
   }
@@ -61,14 +59,15 @@ TEST(Ansi, WhatIsOutsideTheCodePageIsAQuestionMark) {
     const char* Utf8;
     const char* Ansi;
   } cases[] = {
-      {"Ω-ł-𝄞!", "?-?-?!"},       // two, two and four bytes, one character each
-      {"a\x80z", "a?z"},           // continuation without a start
-      {"\xC3(", "?("},             // start without its continuation
-      {"\xE2\x82", "??"},          // cut off
-      {"\xFFz", "?z"},             // never a byte of UTF-8
-      {"\xC1\xA1", "??"},          // an "a" spelled longer than it may be
+      {"Ω-ł-𝄞!", "?-?-?!"},  // two, two and four bytes, one character each
+      {"a\x80z", "a?z"},     // continuation without a start
+      {"\xC3(", "?("},       // start without its continuation
+      {"\xE2\x82", "??"},    // cut off
+      {"\xFFz", "?z"},       // never a byte of UTF-8
+      {"\xC1\xA1", "??"},    // an "a" spelled longer than it may be
   };
-  for (const auto& c : cases) EXPECT_EQ(AnsiFromUtf8(c.Utf8), c.Ansi);
+  for (const auto& c : cases)
+    EXPECT_EQ(AnsiFromUtf8(c.Utf8), c.Ansi);
 }
 
 TEST(Ansi, LowerCaseKnowsTheLettersOfTheCodePage) {

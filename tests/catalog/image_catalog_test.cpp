@@ -24,7 +24,8 @@ class LoadingImages : public testing::Test {
   std::vector<std::string> Ids(bool brakkaMode, std::string_view armyFile) {
     LoadImages(catalog_, files_, folder_.Path(), brakkaMode, armyFile);
     std::vector<std::string> ids;
-    for (Int16 i = 1; i <= catalog_.TotImages; ++i) ids.push_back(catalog_.Images[i].Id);
+    for (Int16 i = 1; i <= catalog_.TotImages; ++i)
+      ids.push_back(catalog_.Images[i].Id);
     return ids;
   }
 

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <unistd.h>
-
 #include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -24,7 +23,8 @@ TEST(ProfileWriting, ChangesOneLineAndLeavesEveryOtherByte) {
     std::string_view Before, Section, Key, Value, After;
   } cases[] = {
       // A key that is there keeps its spelling and its place.
-      {"[S]\r\na=1\r\nKey = old \r\nb=2\r\n", "s", "KEY", "new", "[S]\r\na=1\r\nKey=new\r\nb=2\r\n"},
+      {"[S]\r\na=1\r\nKey = old \r\nb=2\r\n", "s", "KEY", "new",
+       "[S]\r\na=1\r\nKey=new\r\nb=2\r\n"},
       {"[s]\na=1\nb=2\n", "s", "a", "9", "[s]\na=9\r\nb=2\n"},
       {"[s]\ra=1\rb=2\r", "s", "a", "9", "[s]\ra=9\r\nb=2\r"},
       {"[s]\r\na=1", "s", "a", "9", "[s]\r\na=9\r\n"},
@@ -57,8 +57,7 @@ TEST(ProfileWriting, ChangesOneLineAndLeavesEveryOtherByte) {
       {"[s]\nk=1\n", "s", "k", "", "[s]\nk=\r\n"},
       // Bytes of every kind stay.
       {"\x01\xFF\0[\r\n[s] x\n\v=\r\xA0\0k\nk=1\r[ ]\xFE"sv, "s", "k", "9",
-       "\x01\xFF\0[\r\n[s] x\n\v=\r\xA0\0k\nk=9\r\n[ ]\xFE"sv},
-  };
+       "\x01\xFF\0[\r\n[s] x\n\v=\r\xA0\0k\nk=9\r\n[ ]\xFE"sv}};
   const TempFolder folder;
   const fs::path file = folder / "file.dat";
   for (const auto& c : cases) {

@@ -16,7 +16,8 @@ namespace {
 std::string Rows(const std::string& total, const std::string& word, int count,
                  const std::string& row) {
   std::string text = total + "=" + std::to_string(count) + "\n";
-  for (int i = 1; i <= count; ++i) text += word + std::to_string(i) + "=" + row + "\n";
+  for (int i = 1; i <= count; ++i)
+    text += word + std::to_string(i) + "=" + row + "\n";
   return text;
 }
 
@@ -24,7 +25,8 @@ std::string Rows(const std::string& total, const std::string& word, int count,
 template <typename Labels>
 std::string Shown(const Labels& labels, int count) {
   std::string text;
-  for (int i = 0; i < count; ++i) text += (labels[i].Visible ? labels[i].Caption : "-") + "|";
+  for (int i = 0; i < count; ++i)
+    text += (labels[i].Visible ? labels[i].Caption : "-") + "|";
   return text;
 }
 
@@ -131,9 +133,13 @@ TEST(LoadBaseArmy, TablesAndControlsHoldSoManyRowsAndNoMore) {
   EXPECT_EQ(eightLimits.State.Limits[8].TypeA, "HI");
   EXPECT_THROW(LoadLimits(eightLimits.State), SubscriptError);
 
-  SampleState manyUnits("points=100\n" + Rows("tot_units", "unit", 201, "HI,,3,1,,5,9,"));
-  EXPECT_EQ(manyUnits.Host.Heard(), Lines{});
-  EXPECT_EQ(manyUnits.State.BaseUnits[200].UnitType, "HI");
+  SampleState units(Rows("tot_units", "unit", 200, "HI,,3,1,,5,9,") + "[More]\npoints=70\n" +
+                    Rows("tot_units", "unit", 201, "HI,,3,1,,5,9,"));
+  EXPECT_EQ(units.State.BaseUnits[200].UnitType, "HI");
+  units.State.BaseArmyName = "More";
+  EXPECT_NO_THROW(LoadBaseArmy(units.State, units.Host));
+  EXPECT_EQ(units.Host.Heard(), Lines{});
+  EXPECT_EQ(units.State.PointsLeft, 70);
 }
 
 TEST(LoadLimits, SplitsAlternativesAndShowsThemAsWritten) {

@@ -147,15 +147,18 @@ TEST_F(Purchase, TheTagNamesTheRow) {
 }
 
 TEST_F(Purchase, ALineWhoseTagWasEmptiedIsFilledAgainFirst) {
-  for (int k = 0; k <= 22; ++k) grid_.Buy[k].Tag = "";
-  for (int k = 0; k <= 22; ++k) grid_.UnitTotalLabel[k].Caption = "";
+  for (int k = 0; k <= 22; ++k)
+    grid_.Buy[k].Tag = "";
+  for (int k = 0; k <= 22; ++k)
+    grid_.UnitTotalLabel[k].Caption = "";
   EXPECT_EQ(Buy(1, " 2 "), "");
   EXPECT_EQ(Line(1), "2 for 60, 2 bought");
   EXPECT_EQ(Points(state_), "40/60");
   EXPECT_EQ(grid_.Buy[0].Tag, "1");
 
   // In the view of what is bought such a line shows no unit.
-  for (int k = 0; k <= 22; ++k) grid_.Buy[k].Tag = "";
+  for (int k = 0; k <= 22; ++k)
+    grid_.Buy[k].Tag = "";
   state_.BaseUnits[2].Bought = 0;
   TickOption(state_.Units.ViewOption, 2);
   EXPECT_EQ(Buy(1, "1"), "");
