@@ -10,6 +10,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   say "Opening the editor; armies are saved in $PWD/program"
   exec program/tarnwick
 fi
+need_hidden_display
 build release tarnwick tour
 say "No display: driving the window through a whole army"
-exec build/release/tools/tour data build/tour
+exec xvfb-run -a build/release/tools/tour data build/tour

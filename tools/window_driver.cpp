@@ -80,6 +80,26 @@ void WindowDriver::Click(const QString& name) {
   ClickAt(widget, QPoint(qMin(12, widget.width() / 2), widget.height() / 2));
 }
 
+bool WindowDriver::CanDrag() { return QGuiApplication::platformName() != "offscreen"; }
+
+void WindowDriver::Drag(const QString& from, const QString& to, const Script& onTheWay) {
+  QWidget& source = Find(from);
+  QWidget& target = Find(to);
+  QWindow* window = source.window()->windowHandle();
+  const QPoint start = source.mapTo(source.window(), source.rect().center());
+  const QPoint end = target.mapTo(target.window(), target.rect().center());
+  // The drag has an event loop of its own, in which these go on.
+  QTimer::singleShot(50, window, [=] { QTest::mouseMove(window, (start + end) / 2); });
+  QTimer::singleShot(100, window, [=] { QTest::mouseMove(window, end); });
+  QTimer::singleShot(150, window, [=] {
+    onTheWay();
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
+  });
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+  QTest::mouseMove(window, start + QPoint(QApplication::startDragDistance() + 2, 0));
+  QTest::qWait(250);
+}
+
 void WindowDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(FrontWindow(), key, modifiers);
   Settle();

@@ -32,6 +32,12 @@ class WindowDriver {
 
   void Click(const QString& name);
   void ClickAt(QWidget& widget, QPoint position);
+  /// Whether the platform has the machinery for dragging; the offscreen one has not.
+  static bool CanDrag();
+  /// Drags from the middle of one control to the middle of another; `onTheWay` sees the window
+  /// while the piece is held over its target.
+  void Drag(
+      const QString& from, const QString& to, const Script& onTheWay = [] {});
   /// Presses and releases a key, in whatever has the focus.
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void Type(const QString& text);

@@ -3,7 +3,6 @@
 #include "armyfile/army_header.h"
 
 #include <array>
-#include <optional>
 #include <string_view>
 
 #include "base/errors.h"
@@ -106,6 +105,36 @@ void BuildPeriod(ArmyHeader& header) {
   };
   header.ArmyPeriod =
       year(header.FromData, header.FromACBC) + "," + year(header.ToData, header.toACBC);
+}
+
+void ShowPeriod(ArmyHeader& header) {
+  if (header.ArmyPeriod.empty()) return;
+  const Int16 from = StrictInt16(GetField(header.ArmyPeriod, 1));
+  const Int16 to = StrictInt16(GetField(header.ArmyPeriod, 2));
+  const auto show = [](Int16 year, TextBox& box, Table<OptionButton, 0, 1>& era) {
+    box.Text = NumberText(year >= 0 ? year : -year);
+    TickOption(era, year >= 0 ? ac : bc);
+  };
+  show(from, header.FromData, header.FromACBC);
+  show(to, header.ToData, header.toACBC);
+}
+
+void TakeArmyType(ArmyHeader& header, std::string_view code) {
+  header.TYPE_IsFantasy.Value = code.find('F') != std::string_view::npos;
+  header.TYPE_IsPersonal.Value = code.find('P') != std::string_view::npos;
+}
+
+void LoadSpecialRules(ArmyHeader& header, const ProfileFiles& files,
+                      const std::filesystem::path& army) {
+  for (CheckBox* box : {&header.TribalCheck, &header.Ferocity, &header.Mobility}) {
+    box->Value = false;
+  }
+  const std::string rules = files.ReadIniString("ARMY", "special_rules", army);
+  for (Int16 k = 1; !GetField(rules, k).empty(); ++k) {
+    for (const auto& [box, word] : specialRules) {
+      if (GetField(rules, k) == word) (header.*box).Value = true;
+    }
+  }
 }
 
 std::string ArmyTypeCode(const ArmyHeader& header) {

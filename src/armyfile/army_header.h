@@ -4,11 +4,13 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "base/controls.h"
 #include "base/host.h"
 #include "base/int16.h"
 #include "base/table.h"
+#include "catalog/profile_files.h"
 
 namespace tarnwick {
 
@@ -47,6 +49,18 @@ void toACBC_Click(ArmyHeader& header);
 
 /// Rebuilds `ArmyPeriod` from the boxes and era buttons.
 void BuildPeriod(ArmyHeader& header);
+
+/// Shows `ArmyPeriod` in the boxes and era buttons; an empty one leaves them. Throws
+/// TypeMismatchError or OverflowError, with nothing changed, when it is not two years.
+void ShowPeriod(ArmyHeader& header);
+
+/// Ticks the army types that the type text `code` holds and unticks the others.
+void TakeArmyType(ArmyHeader& header, std::string_view code);
+
+/// Ticks the special rules that an army file lists. Only the first three in the order of the file
+/// are unticked when it does not list them; the others stay as they are, deliberately.
+void LoadSpecialRules(ArmyHeader& header, const ProfileFiles& files,
+                      const std::filesystem::path& army);
 
 /// "", "F" (fantasy), "P" (personal) or "FP".
 std::string ArmyTypeCode(const ArmyHeader& header);

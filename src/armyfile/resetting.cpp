@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/resetting.h"
 
+#include "battlefield/terrain.h"
 #include "rules/budget.h"
 
 namespace tarnwick {

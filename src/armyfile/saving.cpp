@@ -8,6 +8,8 @@
 #include "base/ansi.h"
 #include "base/errors.h"
 #include "base/numbers.h"
+#include "battlefield/setups.h"
+#include "battlefield/terrain.h"
 #include "catalog/output_file.h"
 #include "rules/unit_points.h"
 #include "rules/verification.h"
@@ -131,6 +133,8 @@ void SaveArmy(WorkingArmy& work, Host& host) {
   WriteArmyFile(work, path, host.Today());
   // Terrain goes to the program folder whatever the module.
   SaveTerrain(work.Field, army.Files, PathIn(army.ProgramFolder, fileName));
+  // Setups go with the name that the army was loaded under.
+  CopySetupsToArmy(army, PathIn(army.ProgramFolder, work.Header.ArmyFile + ".army"));
   host.Message("Army Saved");
 }
 

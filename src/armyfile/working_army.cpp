@@ -2,22 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/working_army.h"
 
+#include "battlefield/terrain.h"
 #include "rules/base_army_loading.h"
 #include "rules/unit_grid.h"
 
 namespace tarnwick {
-namespace {
-
-void ReadImageCatalog(WorkingArmy& work) {
-  ArmyState& army = work.Army;
-  LoadImages(army.Catalog, army.Files, army.ProgramFolder, army.BrakkaMode, work.Header.ArmyFile);
-}
 
 void TakeModule(ArmyState& army) {
   army.BrakkaMode = army.Management.modOption[1].Value;
 }
 
-}  // namespace
+void ReadImageCatalog(WorkingArmy& work) {
+  ArmyState& army = work.Army;
+  LoadImages(army.Catalog, army.Files, army.ProgramFolder, army.BrakkaMode, work.Header.ArmyFile);
+}
 
 void Form_Load(WorkingArmy& work) {
   ArmyState& army = work.Army;

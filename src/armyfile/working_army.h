@@ -6,7 +6,7 @@
 
 #include "armyfile/army_header.h"
 #include "base/host.h"
-#include "battlefield/terrain.h"
+#include "battlefield/battlefield.h"
 #include "rules/army_state.h"
 
 namespace tarnwick {
@@ -20,6 +20,13 @@ struct WorkingArmy {
   Battlefield Field;
   ArmyHeader Header;
 };
+
+/// The module that the options show becomes the module of the army.
+void TakeModule(ArmyState& army);
+
+/// Reads the module's image catalog and the one that the army file names. Throws SubscriptError
+/// when they have more than 200 rows.
+void ReadImageCatalog(WorkingArmy& work);
 
 /// Start-up: prepares the state, puts the "Army Managemet" panel in front and reads the image
 /// catalog. Throws SubscriptError when that has more than 200 rows.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,12 @@ struct OptionButton {
   bool Visible = true;
 };
 
+/// A box that shows a picture, and the area pictures are dropped on.
+struct PictureBox {
+  std::string Tag = "0";
+  int Picture = 0;  ///< which picture it shows
+};
+
 struct CheckBox {
   bool Value = false;
 };
@@ -68,6 +75,12 @@ struct ListBox {
   void Clear() {
     Entries.clear();
     ListIndex = -1;
+  }
+  /// Selects the entry of that text, if there is one.
+  void Select(const std::string& text) {
+    const auto found = std::find_if(Entries.begin(), Entries.end(),
+                                    [&text](const ListEntry& entry) { return entry.Text == text; });
+    if (found != Entries.end()) ListIndex = static_cast<int>(found - Entries.begin());
   }
   void AddItem(const std::string& text, Int16 itemData = 0) { Entries.push_back({text, itemData}); }
 };

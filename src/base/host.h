@@ -23,6 +23,8 @@ class Host {
 
   /// The choice of a base army; the answer is `BaseArmyName`.
   virtual void ShowArmySelectionForm() = 0;
+  /// The choice of a saved army; the answer is `ArmyFile`.
+  virtual void ShowArmyListForm() = 0;
   /// The definition of a leader.
   virtual void ShowLeaderMgmtForm() = 0;
   /// The special abilities of the unit row `SpecUnitRow`.

@@ -3,34 +3,47 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 #include <string_view>
 
+#include "base/host.h"
 #include "base/int16.h"
-#include "base/table.h"
+#include "battlefield/battlefield.h"
 #include "catalog/profile_files.h"
+#include "rules/army_state.h"
 
 namespace tarnwick {
 
-struct TerrainKindRec {
-  std::string Name;   ///< the keyword that army files hold
-  Int16 ArmyCost;     ///< army points
-  Int16 CommandCost;  ///< command points
-};
-
-/// The terrain on offer and what lies on the nine areas of the battlefield.
-struct Battlefield {
-  Table<TerrainKindRec, 0, 5> TerrainKinds;
-  Table<std::string, 0, 8> AreaTerrain;  ///< area n + 1; the name of a kind
-};
-
-/// Takes all terrain off the areas. Gives no points back.
+/// Takes all terrain off the areas. Gives no points back and changes no picture.
 void ClearAreas(Battlefield& field);
 
 /// Clears the areas and fills the table of kinds.
 void InitTerrainKinds(Battlefield& field);
 
+/// The index of the kind of that name, case and all. Throws SubscriptError for another name.
+Int16 TerrainIndex(const Battlefield& field, std::string_view name);
+
 /// Writes the section TERRAIN of an army file, all nine areas. A failed write is silent.
 void SaveTerrain(const Battlefield& field, ProfileFiles& files, const std::filesystem::path& army);
+
+/// Reads the nine areas of an army file and charges their prices, even below 0. A missing area is
+/// clear; a name that is no kind throws SubscriptError after it was stored.
+void LoadTerrain(Battlefield& field, ArmyState& state, const std::filesystem::path& army);
+
+/// Shows the free points on the terrain panel.
+void ShowTerrainPoints(Battlefield& field, const ArmyState& state);
+
+/// Shows the free points and what lies on the areas. An area that was cleared keeps its picture
+/// until a piece is dropped on it, deliberately.
+void ShowTerrain(Battlefield& field, const ArmyState& state);
+
+/// Whether both prices of a kind are free.
+bool CanPlaceTerrain(const Battlefield& field, const ArmyState& state, Int16 kind);
+
+/// The palette's piece `piece` is dropped on `Area(area)`: refunds what lies there and charges the
+/// piece, whose whole price must be free before the refund. Throws OverflowError.
+void DropTerrain(Battlefield& field, ArmyState& state, Host& host, Int16 piece, Int16 area);
+
+/// Shows the terrain panel with its points and areas up to date.
+void ShowTerrainBtn_Click(Battlefield& field, ArmyState& state);
 
 }  // namespace tarnwick

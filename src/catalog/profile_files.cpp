@@ -94,14 +94,21 @@ Int16 ProfileFiles::ReadIniNumber(std::string_view section, std::string_view key
 
 Int16 ProfileFiles::WriteIniString(std::string_view section, std::string_view key,
                                    std::string_view value, const fs::path& file) {
+  return WriteIniStrings({{std::string(section), std::string(key), std::string(value)}}, file);
+}
+
+Int16 ProfileFiles::WriteIniStrings(const std::vector<Entry>& entries, const fs::path& file) {
   const KnownFile* known = Known(file);
   std::error_code error;
   // A file that is there but can't be read must not be replaced by one that holds this key alone.
   if (known == nullptr && fs::exists(file, error)) return 0;
-  const ProfileText empty;
+  ProfileText text = known != nullptr ? ProfileText(known->Text.Bytes()) : ProfileText();
+  for (const Entry& entry : entries) {
+    text = ProfileText(text.With(entry.Section, entry.Key, entry.Value));
+  }
   try {
     OutputFile output(file);
-    output.Write((known != nullptr ? known->Text : empty).With(section, key, value));
+    output.Write(text.Bytes());
     output.Close();
     return 1;
   } catch (const FileError&) {

@@ -21,6 +21,9 @@ class ProfileText {
   ProfileText(std::unique_ptr<char[]> bytes, std::size_t size);
   explicit ProfileText(std::string_view text);
 
+  /// The whole text.
+  std::string_view Bytes() const { return text_; }
+
   /// The value without the blanks and the one pair of quotes around it, however long; nothing
   /// when there is no such section or key. Spaces around the names don't count.
   std::optional<std::string_view> Find(std::string_view section, std::string_view key);

@@ -40,6 +40,22 @@ void InitializeVariables(ArmyState& state) {
   TickOption(state.Management.modOption, 0);
 }
 
+MonsterPanel::MonsterPanel() {
+  for (int size = 1; size <= 15; ++size)
+    M_Size.AddItem(NumberText(Int16(size)));
+  for (int quality = 4; quality <= 9; ++quality)
+    M_TQ.AddItem(NumberText(Int16(quality)));
+  for (const char* type : {"SM", "LM", "EL", "PH", "HI", "MI", "LI", "SK", "LC", "HC"}) {
+    M_Type.AddItem(type);
+  }
+}
+
+void NewMonster(MonsterPanel& panel) {
+  panel.M_TQ.Select("4");
+  panel.M_Type.Select("SM");
+  panel.M_Size.Select("5");
+}
+
 void ShowPanel(ArmyState& state, Panel panel) {
   state.EditFrame.Front = static_cast<int>(panel);
 }

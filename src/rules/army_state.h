@@ -59,6 +59,13 @@ struct ManagementPanel {
   TextBox ArmyName, ArmyFileName;
 };
 
+/// The "Monster Laboratory" panel. Nothing reads its lists.
+struct MonsterPanel {
+  MonsterPanel();
+
+  ListBox M_Size, M_TQ, M_Type;
+};
+
 /// The working army: what the catalog says of its base army, what the player bought, and what
 /// the controls show.
 struct ArmyState {
@@ -82,6 +89,9 @@ struct ArmyState {
   Int16 PointsSpent;  ///< army points spent on units
   Int16 CommandPts;   ///< command points still to spend, on leaders, cards and terrain
 
+  Int16 NumUnits;                 ///< unit lines of the army file that was loaded
+  Int16 FootUnits, MountedUnits;  ///< how they fight
+
   Int16 TotUnits, TotLimits, TotSpecial;
   Table<UnitRec, 1, 200> BaseUnits;
   Table<LimitRec, 1, 10> Limits;
@@ -97,6 +107,7 @@ struct ArmyState {
   UnitsPanel Units;
   CommandPanel Command;
   ManagementPanel Management;
+  MonsterPanel Monster;
 };
 
 /// What the window's design holds before anything is loaded: the module's paths, captions, and
@@ -108,6 +119,9 @@ enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaborator
 
 /// Brings a panel to the front; nothing else changes.
 void ShowPanel(ArmyState& state, Panel panel);
+
+/// Resets the lists of the monster laboratory.
+void NewMonster(MonsterPanel& panel);
 
 /// The module's own folder: the program folder, or "brakka" in it.
 std::filesystem::path ModuleFolder(const ArmyState& state);

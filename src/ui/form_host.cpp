@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include "rules/unit_types.h"
+#include "ui/army_list_dialog.h"
 #include "ui/army_selection_dialog.h"
 #include "ui/leader_dialog.h"
 #include "ui/picture_form.h"
@@ -41,6 +42,10 @@ bool FormHost::Question(const std::string& text) {
 
 void FormHost::ShowArmySelectionForm() {
   ArmySelectionDialog(*session_, QApplication::activeWindow()).exec();
+}
+
+void FormHost::ShowArmyListForm() {
+  ArmyListDialog(*session_, QApplication::activeWindow()).exec();
 }
 
 void FormHost::ShowLeaderMgmtForm() {

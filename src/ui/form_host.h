@@ -26,6 +26,7 @@ class FormHost : public Host {
   void Message(const std::string& text) override;
   bool Question(const std::string& text) override;
   void ShowArmySelectionForm() override;
+  void ShowArmyListForm() override;
   void ShowLeaderMgmtForm() override;
   void ShowSpecForm() override;
   void ShowPicture(const std::filesystem::path& file) override;

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 
 #include "armyfile/saving.h"
+#include "battlefield/setups.h"
+#include "battlefield/terrain.h"
 #include "ui/command_panel.h"
 #include "ui/detail_panel.h"
 #include "ui/management_panel.h"
@@ -58,12 +60,18 @@ QWidget* MainForm::NewButtonColumn() {
   column->setBackgroundRole(QPalette::Button);
   auto* layout = new QVBoxLayout(column);
   layout->setSpacing(2);
-  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units);
-  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command);
-  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail);
-  AddPanelButton(layout, "ShowTerrainBtn", "Terrain", Panel::Terrain);
-  AddPanelButton(layout, "ShowSetup", "Setup", Panel::Setup);
-  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management);
+  const auto bringToFront = [this](Panel panel) {
+    return [this, panel] { ShowPanel(session_.Work.Army, panel); };
+  };
+  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units, bringToFront(Panel::Units));
+  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command, bringToFront(Panel::Command));
+  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail, bringToFront(Panel::Detail));
+  AddPanelButton(layout, "ShowTerrainBtn", "Terrain", Panel::Terrain,
+                 [this] { ShowTerrainBtn_Click(session_.Work.Field, session_.Work.Army); });
+  AddPanelButton(layout, "ShowSetup", "Setup", Panel::Setup,
+                 [this] { ShowSetup_Click(session_.Work.Field, session_.Work.Army); });
+  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management,
+                 bringToFront(Panel::Management));
   layout->addSpacing(16);
   AddQuickSave(layout);
   layout->addStretch();
@@ -72,13 +80,12 @@ QWidget* MainForm::NewButtonColumn() {
 }
 
 void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char* caption,
-                              Panel panel) {
+                              Panel panel, const std::function<void()>& show) {
   auto* button = new PanelButton(name, caption, this);
   button->setCheckable(true);
   column->addWidget(button);
   panelButtons_.insert(static_cast<int>(panel), button);
-  connect(button, &QPushButton::clicked, this,
-          [this, panel] { session_.Run([this, panel] { ShowPanel(session_.Work.Army, panel); }); });
+  connect(button, &QPushButton::clicked, this, [this, show] { session_.Run(show); });
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {

@@ -32,7 +32,8 @@ class MainForm : public QWidget {
 
  private:
   QWidget* NewButtonColumn();
-  void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel);
+  void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel,
+                      const std::function<void()>& show);
   void AddQuickSave(QVBoxLayout* column);
   void AddHeaderButtons(QVBoxLayout* column);
   QWidget* NewPanelStack();

@@ -7,6 +7,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "armyfile/loading.h"
 #include "armyfile/saving.h"
 #include "ui/qt_text.h"
 #include "ui/session.h"
@@ -84,10 +85,11 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* load = add("LoadBtn", "Load army");
   auto* save = add("SaveBtn", "Save Army");
   layout->addStretch();
-  load->setEnabled(false);
   setFocusProxy(newArmy);
   connect(newArmy, &QPushButton::clicked, this,
           [this] { session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.User); }); });
+  connect(load, &QPushButton::clicked, this,
+          [this] { session_.Run([this] { LoadBtn_Click(session_.Work, session_.User); }); });
   connect(save, &QPushButton::clicked, this,
           [this] { session_.Run([this] { SaveArmy(session_.Work, session_.User); }); });
   return row;

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/session.h"
 #include "ui/widgets.h"
 
 namespace tarnwick {
@@ -14,19 +15,30 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
     : PanelWidget(Panel::MonsterLaboratory, "Monster Laboratory", session) {
   auto* lists = new QFormLayout;
   lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-  lists->addRow("Size", Named(new QComboBox(this), "M_Size"));
-  lists->addRow("TQ", Named(new QComboBox(this), "M_TQ"));
-  lists->addRow("Type", Named(new QComboBox(this), "M_Type"));
+  MonsterPanel& monster = session.Work.Army.Monster;
+  const auto addList = [&](const char* name, const char* caption, ListBox& control) {
+    auto* list = Named(new QComboBox(this), name);
+    list->setMinimumContentsLength(6);
+    lists->addRow(caption, list);
+    bindings_.Add(list, control);
+  };
+  addList("M_Size", "Size", monster.M_Size);
+  addList("M_TQ", "TQ", monster.M_TQ);
+  addList("M_Type", "Type", monster.M_Type);
   Body()->addLayout(lists);
 
   auto* buttons = new QHBoxLayout;
   const QString tip = "Armies are saved and loaded on the panel Load/Save";
-  buttons->addWidget(NewIdleButton("NewMonsterBtn", "New army", "", this));
+  auto* newMonster = Named(new QPushButton("New army", this), "NewMonsterBtn");
+  buttons->addWidget(newMonster);
   buttons->addWidget(NewIdleButton("Command5", "Load army", tip, this));
   buttons->addWidget(NewIdleButton("Command4", "Save Army", tip, this));
   buttons->addStretch();
   Body()->addLayout(buttons);
   Body()->addStretch();
+
+  connect(newMonster, &QPushButton::clicked, this,
+          [this] { session_.Run([this] { NewMonster(session_.Work.Army.Monster); }); });
 }
 
 }  // namespace tarnwick

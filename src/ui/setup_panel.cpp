@@ -6,38 +6,103 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "battlefield/setups.h"
 #include "ui/qt_text.h"
+#include "ui/session.h"
 #include "ui/widgets.h"
 
 namespace tarnwick {
 
 SetupPanelWidget::SetupPanelWidget(Session& session) : PanelWidget(Panel::Setup, "Setup", session) {
   auto* row = new QHBoxLayout;
-  auto* side = new QVBoxLayout;
-  side->addWidget(Named(new QListWidget(this), "setupList"));
-  side->addWidget(NewIdleButton("Command6", "New Setup", "", this));
-  side->addWidget(NewIdleButton("Command3", "Delete Setup", "", this));
-  row->addLayout(side, 1);
-  row->addWidget(NewSetupFrame(), 4);
+  row->setSpacing(18);
+  row->addWidget(NewSetupList());
+  row->addWidget(NewSetupFrame(), 1);
+  row->addStretch();
   Body()->addLayout(row, 1);
 }
 
+QWidget* SetupPanelWidget::NewSetupList() {
+  auto* side = new QWidget(this);
+  auto* layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* list = Named(new QListWidget(side), "setupList");
+  auto* create = Named(new QPushButton("New Setup", side), "Command6");
+  auto* remove = Named(new QPushButton("Delete Setup", side), "Command3");
+  layout->addWidget(list, 1);
+  layout->addWidget(create);
+  layout->addWidget(remove);
+  side->setFixedWidth(TextWidth(side, 20));
+
+  bindings_.Add(list, session_.Work.Field.Setup.setupList);
+  connect(list, &QListWidget::itemSelectionChanged, this, [this] {
+    session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
+  });
+  // An entry that is selected already shows its setup again, as after the panel hid it.
+  connect(list, &QListWidget::itemClicked, this, [this] {
+    session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
+  });
+  Connect(create, [this] { Command6_Click(session_.Work.Field, session_.Work.Army); });
+  Connect(remove, [this] { Command3_Click(session_.Work.Army); });
+  return side;
+}
+
 QWidget* SetupPanelWidget::NewSetupFrame() {
-  auto* frame = NewFrame("setupFramePanel", "", this);
+  SetupPanel& setup = session_.Work.Field.Setup;
+  auto* frame = Named(new QWidget(this), "setupFramePanel");
   auto* layout = new QGridLayout(frame);
-  const char* const zones[] = {"Left",   "Left",   "Centre", "Centre", "Centre",
-                               "Centre", "Centre", "Right",  "Right"};
-  for (int place = 0; place < 9; ++place) {
-    layout->addWidget(NewLabel("Label1", zones[place], frame), place, 0);
-    layout->addWidget(NewIdleButton(ElementName("assignBtn", place), "<->", "", frame), place, 1);
-    layout->addWidget(NewLabel(ElementName("unit", place), "", frame), place, 2);
-  }
-  layout->addWidget(Named(new QListWidget(frame), "unitList"), 0, 3, 9, 1);
-  layout->addWidget(NewLabel("Label1", "Description", frame), 9, 0, 1, 4);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setHorizontalSpacing(18);
+  layout->addWidget(NewZone("Left", 0, 1, frame), 0, 0);
+  layout->addWidget(NewZone("Centre", 2, 6, frame), 1, 0);
+  layout->addWidget(NewZone("Right", 7, 8, frame), 2, 0);
+  auto* units = Named(new QListWidget(frame), "unitList");
+  units->setMinimumWidth(TextWidth(units, 28));
+  layout->addWidget(units, 0, 1, 3, 1);
+  layout->addWidget(NewLabel("Label1", "Description", frame), 3, 0, 1, 2);
   auto* description = NewDescriptionBox("description", 2, frame);
-  layout->addWidget(description, 10, 0, 1, 4);
-  frame->hide();  // until a setup is chosen
+  layout->addWidget(description, 4, 0, 1, 2);
+  layout->setRowStretch(4, 1);
+
+  bindings_.AddVisible(frame, setup.setupFramePanel.Visible);
+  bindings_.Add(units, setup.unitList);
+  bindings_.Add(description, setup.description);
+  connect(description, &QPlainTextEdit::textChanged, this, [this] {
+    session_.Run([this] { description_Change(session_.Work.Field, session_.Work.Army); });
+  });
   return frame;
+}
+
+QWidget* SetupPanelWidget::NewZone(const char* caption, int firstPlace, int lastPlace,
+                                   QWidget* parent) {
+  auto* zone = new QFrame(parent);
+  zone->setFrameStyle(QFrame::StyledPanel);
+  auto* layout = new QGridLayout(zone);
+  layout->setVerticalSpacing(2);
+  auto* name = NewLabel("Label1", caption, zone);
+  name->setMinimumWidth(TextWidth(name, 9));
+  layout->addWidget(name, 0, 0);
+  for (int place = firstPlace; place <= lastPlace; ++place) {
+    auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
+    assign->setFixedWidth(TextWidth(assign, 6));
+    auto* unit = NewLabel(ElementName("unit", place), "", zone);
+    unit->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    unit->setAutoFillBackground(true);
+    unit->setBackgroundRole(QPalette::Base);
+    unit->setMinimumWidth(TextWidth(unit, 26));
+    layout->addWidget(assign, place - firstPlace, 1);
+    layout->addWidget(unit, place - firstPlace, 2);
+    bindings_.Add(unit, session_.Work.Field.Setup.unit[place]);
+    Connect(assign, [this, place] {
+      assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.User, place);
+    });
+  }
+  layout->setColumnStretch(2, 1);
+  return zone;
+}
+
+void SetupPanelWidget::Connect(QAbstractButton* button, const std::function<void()>& operation) {
+  connect(button, &QAbstractButton::clicked, this, [this, operation] { session_.Run(operation); });
 }
 
 }  // namespace tarnwick

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "ui/panel_widget.h"
 
 namespace tarnwick {
@@ -12,7 +14,10 @@ class SetupPanelWidget : public PanelWidget {
   explicit SetupPanelWidget(Session& session);
 
  private:
+  QWidget* NewSetupList();
   QWidget* NewSetupFrame();
+  QWidget* NewZone(const char* caption, int firstPlace, int lastPlace, QWidget* parent);
+  void Connect(QAbstractButton* button, const std::function<void()>& operation);
 };
 
 }  // namespace tarnwick

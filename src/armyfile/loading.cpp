@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "armyfile/loading.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "armyfile/resetting.h"
+#include "base/ansi.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "battlefield/setups.h"
+#include "battlefield/terrain.h"
+#include "rules/base_army_loading.h"
+#include "rules/budget.h"
+#include "rules/leaders.h"
+#include "rules/unit_grid.h"
+#include "rules/unit_types.h"
+
+namespace tarnwick {
+namespace {
+
+/// Loads one army file.
+class ArmyLoader {
+ public:
+  ArmyLoader(WorkingArmy& work, Host& host, std::filesystem::path file)
+      : work_(work), army_(work.Army), header_(work.Header), host_(host), file_(std::move(file)) {}
+
+  void Load() {
+    ReadHeader();
+    if (!LoadCatalogs() || !LoadUnits()) return;
+    ShowSelectUnits(army_);
+    army_.PointsLeft -= army_.PointsSpent;
+    LoadLeader();
+    LoadCards();
+    LoadTerrain(work_.Field, army_, file_);
+    header_.ArmyDesc.Text = ReplaceText("@", CrLf, header_.ArmyDescription);
+    LoadSpecialRules(header_, army_.Files, file_);
+    ShowPoints(army_);
+    TakeArmyType(header_, Read("ARMY", "type"));
+    ShowPeriod(header_);
+    // Setups are kept in the program folder whatever the module.
+    LoadSetupsFromArmy(work_.Field, army_, PathIn(army_.ProgramFolder, header_.ArmyFile + ".army"));
+    ShowPanel(army_, Panel::Units);
+  }
+
+ private:
+  std::string Read(std::string_view section, std::string_view key) const {
+    return army_.Files.ReadIniString(section, key, file_);
+  }
+
+  void ReadHeader() {
+    army_.BaseArmyName = Read("ARMY", "base");
+    header_.ArmyAuthor = Read("ARMY", "author");
+    header_.ArmyDescription = Read("ARMY", "description");
+    header_.ArmyPeriod = Read("ARMY", "period");
+    header_.ArmyImages = Read("ARMY", "images");
+    header_.ArmyTypeText = Read("ARMY", "type");
+    army_.Management.ArmyName.Text = Read("ARMY", "name");
+  }
+
+  bool LoadCatalogs() {
+    LoadBaseArmy(army_, host_);
+    if (army_.TotUnits == 0) {
+      host_.Message("The army type [" + army_.BaseArmyName + "] is not present in armylist.dat" +
+                    std::string(CrLf) + "This army cannot be edited");
+      return false;
+    }
+    ReadImageCatalog(work_);
+    return true;
+  }
+
+  bool LoadUnits() {
+    army_.NumUnits = LenientInt16(Read("ARMY", "numunits"));
+    army_.FootUnits = 0;
+    army_.MountedUnits = 0;
+    work_.Field.Setup.unitList.Clear();
+    for (Int16 k = 1; k <= army_.NumUnits; ++k) {
+      if (!LoadUnit(k)) return false;
+    }
+    return true;
+  }
+
+  bool LoadUnit(Int16 k) {
+    const std::string line = Read("ARMY", RowKey("unit", k));
+    const Int16 row = FindRow(line);
+    if (row == 0) {
+      host_.Message("Unit number " + NumberText(k) + " not found in " + AnsiFromPath(file_));
+      return false;
+    }
+    UnitRec& unit = army_.BaseUnits[row];
+    ++unit.Bought;
+    army_.PointsSpent += unit.Cost;
+    // The class is asked about here, not the type, deliberately.
+    ++(MountedKind(army_, unit.UnitClass, row) == mounted ? army_.MountedUnits : army_.FootUnits);
+    const std::string picture = GetField(line, 6);
+    const Int16 image = FindImage(picture);
+    if (image == 0) {
+      host_.Message("No image match for unit " + NumberText(k) + " (" + picture + ")");
+      return false;
+    }
+    unit.ChosenImageIdx = image;
+    return true;
+  }
+
+  /// The first row whose five identifying fields are those of the unit line; 0 for none.
+  Int16 FindRow(const std::string& line) const {
+    const std::string type = GetField(line, 1);
+    const std::string unitClass = GetField(line, 2);
+    const std::string tq = GetField(line, 3);
+    const std::string size = GetField(line, 4);
+    const std::string missile = GetField(line, 5);
+    for (Int16 r = 1; r <= army_.TotUnits; ++r) {
+      const UnitRec& unit = army_.BaseUnits[r];
+      if (unit.UnitType == type && unit.UnitClass == unitClass && unit.TQ == tq &&
+          unit.Size == size && unit.Missile == missile) {
+        return r;
+      }
+    }
+    // The search ends on the row behind the last one; a full table has none.
+    static_cast<void>(army_.BaseUnits[army_.TotUnits + 1]);
+    return 0;
+  }
+
+  Int16 FindImage(const std::string& id) const {
+    for (Int16 j = 1; j <= army_.Catalog.TotImages; ++j) {
+      if (army_.Catalog.Images[j].Id == id) return j;
+    }
+    return 0;
+  }
+
+  void LoadLeader() {
+    const std::string name = Read("LEADER", "name");
+    for (Int16 i = 0; i < army_.LeaderCount; ++i) {
+      if (name.starts_with(GetField(army_.Command.LeaderName[i].Caption, 1, " "))) {
+        TakeLeader(i);
+        return;
+      }
+    }
+    if (army_.LeaderCount > 10) return;
+    const Int16 index = army_.LeaderCount;
+    const Int16 initiative = LenientInt16(Read("LEADER", "initiative"));
+    const Int16 command = LenientInt16(Read("LEADER", "command"));
+    army_.Leaders[index] = {name, NumberText(initiative), command, LeaderCost(initiative, command)};
+    ++army_.LeaderCount;
+    ShowLeader(army_, index);
+    TakeLeader(index);
+  }
+
+  /// Ticking the option is a click on it, which pays for the leader.
+  void TakeLeader(Int16 index) {
+    TickOption(army_.Command.LeaderName, index);
+    LeaderName_Click(army_, host_, index);
+    army_.SelectedLeader = index;
+  }
+
+  void LoadCards() {
+    CommandPanel& panel = army_.Command;
+    const struct {
+      const char* Key;
+      const char* Card;
+    } cards[] = {{"flank", "FLANK"},
+                 {"rally", "RALLY"},
+                 {"cohesion", "COHESION"},
+                 {"missile", "MISSILE"},
+                 {"caltrop", "CALTROP"}};
+    for (const auto& [key, card] : cards) {
+      const Int16 bought = LenientInt16(Read("ARMY", key));
+      Int16 j;
+      while (j < army_.TotSpecial && panel.SpecNameLabel[j].Caption != card)
+        ++j;
+      if (j == army_.TotSpecial) continue;
+      panel.SpecBuy[j].Text = NumberText(bought);
+      panel.SpecBuy[j].Tag = NumberText(bought);
+      army_.CommandPts -=
+          RoundToInt16(bought.Value() * LenientNumber(panel.SpecCostLabel[j].Caption));
+    }
+  }
+
+  WorkingArmy& work_;
+  ArmyState& army_;
+  ArmyHeader& header_;
+  Host& host_;
+  std::filesystem::path file_;
+};
+
+}  // namespace
+
+void LoadBtn_Click(WorkingArmy& work, Host& host) {
+  ResetArmyData(work);
+  TakeModule(work.Army);
+  LoadArmy(work, host);
+}
+
+void LoadArmy(WorkingArmy& work, Host& host) {
+  host.ShowArmyListForm();
+  const std::string& name = work.Header.ArmyFile;
+  if (name.empty()) return;
+  work.Army.Management.ArmyFileName.Text = name;
+  ArmyLoader(work, host, PathIn(ModuleFolder(work.Army), name + ".army")).Load();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "battlefield/setups.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "base/ansi.h"
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "catalog/profile_files.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int mostSetups = 20;  ///< that an army file can hold
+constexpr int places = 9;
+
+/// How a line break of a description is stored.
+constexpr std::string_view storedLineBreak = "\\n";
+
+fs::path ScratchFile(const ArmyState& state) {
+  return state.ProgramFolder / "working.setup";
+}
+
+std::string SectionOf(Int16 number) {
+  return "SETUP " + NumberText(number);
+}
+
+/// The setups 1 to 20 of a file that have a description, every key as it is stored.
+std::vector<ProfileFiles::Entry> StoredSetups(const ProfileFiles& files, const fs::path& file) {
+  std::vector<ProfileFiles::Entry> entries;
+  for (Int16 n = 1; n <= mostSetups; ++n) {
+    const std::string section = SectionOf(n);
+    const auto add = [&](const std::string& key) {
+      entries.push_back({section, key, files.ReadIniString(section, key, file)});
+    };
+    add("description");
+    if (entries.back().Value.empty()) {
+      entries.pop_back();
+      continue;
+    }
+    for (Int16 k = 1; k <= places; ++k)
+      add(RowKey("field", k));
+  }
+  return entries;
+}
+
+/// What names a unit row on a place and in the list of units.
+std::string DeployText(const UnitRec& unit) {
+  return unit.UnitType + "," + unit.UnitClass + "," + unit.TQ + "," + unit.Size + "," +
+         unit.Missile;
+}
+
+}  // namespace
+
+void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const fs::path& army) {
+  const fs::path scratch = ScratchFile(state);
+  if (FileExists(scratch)) {
+    std::error_code error;
+    if (!fs::remove(scratch, error)) {
+      throw FileError("File " + AnsiFromPath(scratch) + " cannot be deleted: " + error.message());
+    }
+  }
+  field.Setup.setupList.Clear();
+  const auto entries = StoredSetups(state.Files, army);
+  for (const auto& entry : entries) {
+    if (entry.Key == "description") {
+      field.Setup.setupList.AddItem(GetField(entry.Section, 2, " "));
+    }
+  }
+  if (!entries.empty()) state.Files.WriteIniStrings(entries, scratch);
+}
+
+void CopySetupsToArmy(ArmyState& state, const fs::path& army) {
+  const auto entries = StoredSetups(state.Files, ScratchFile(state));
+  if (!entries.empty()) state.Files.WriteIniStrings(entries, army);
+}
+
+void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number) {
+  SetupPanel& panel = field.Setup;
+  const auto read = [&](const std::string& key) {
+    return state.Files.ReadIniString(SectionOf(number), key, ScratchFile(state));
+  };
+  panel.description.Text = ReplaceText(storedLineBreak, CrLf, Trim(read("description")));
+  for (Int16 i = 0; i < places; ++i)
+    panel.unit[i].Caption = read(RowKey("field", i + 1));
+  panel.setupFramePanel.Visible = true;
+  FillDeployList(field, state);
+}
+
+void SaveSetup(const Battlefield& field, ArmyState& state) {
+  std::string text = ReplaceText(CrLf, storedLineBreak, Trim(field.Setup.description.Text));
+  // A setup without a description would not exist.
+  if (text.empty()) text = "<new setup>";
+  if (state.SetupLoading) return;
+  const std::string section = SectionOf(field.CurrentSetup);
+  std::vector<ProfileFiles::Entry> entries = {{section, "description", text}};
+  for (Int16 i = 0; i < places; ++i) {
+    entries.push_back({section, RowKey("field", i + 1), field.Setup.unit[i].Caption});
+  }
+  state.Files.WriteIniStrings(entries, ScratchFile(state));
+}
+
+void FillDeployList(Battlefield& field, const ArmyState& state) {
+  SetupPanel& panel = field.Setup;
+  panel.unitList.Clear();
+  const Int16 last = std::min(state.NumUnits, Int16(decltype(state.BaseUnits)::Last));
+  for (Int16 r = 1; r <= last; ++r) {
+    if (state.BaseUnits[r].UnitType.empty()) continue;
+    const std::string text = DeployText(state.BaseUnits[r]);
+    const bool deployed = std::any_of(panel.unit.begin(), panel.unit.end(),
+                                      [&](const Label& place) { return place.Caption == text; });
+    if (!deployed) panel.unitList.AddItem(text);
+  }
+}
+
+void setupList_Click(Battlefield& field, const ArmyState& state) {
+  if (!field.Setup.setupList.HasSelection()) return;
+  field.CurrentSetup = LenientInt16(field.Setup.setupList.Text());
+  LoadSetup(field, state, field.CurrentSetup);
+}
+
+void description_Change(const Battlefield& field, ArmyState& state) {
+  SaveSetup(field, state);
+}
+
+void Command6_Click(Battlefield& field, ArmyState& state) {
+  SetupPanel& panel = field.Setup;
+  Int16 next;
+  for (const ListEntry& entry : panel.setupList.Entries) {
+    const Int16 number = LenientInt16(entry.Text);
+    if (number >= next) next = number + 1;
+  }
+  if (next == 0) next = 1;
+  field.CurrentSetup = next;
+  panel.setupList.AddItem(NumberText(next));
+  panel.setupList.ListIndex = static_cast<int>(panel.setupList.Entries.size()) - 1;
+  panel.setupFramePanel.Visible = true;
+  panel.description.Text = "New setup";
+  description_Change(field, state);
+  for (Label& place : panel.unit)
+    place.Caption = "";
+  FillDeployList(field, state);
+}
+
+void Command3_Click(ArmyState& state) {
+  ShowPanel(state, Panel::MonsterLaboratory);
+}
+
+void assignBtn_Click(Battlefield& field, ArmyState& state, Host& host, Int16 place) {
+  ListBox& list = field.Setup.unitList;
+  std::string& unit = field.Setup.unit[place].Caption;
+  if (list.HasSelection()) {
+    const int selected = list.ListIndex;
+    const std::string deployed = list.Text();
+    if (!unit.empty()) list.AddItem(unit);
+    unit = deployed;
+    list.Entries.erase(list.Entries.begin() + selected);
+    list.ListIndex = -1;
+  } else if (!unit.empty()) {
+    list.AddItem(unit);
+    unit = "";
+  } else {
+    host.Message("Please select a unit");
+  }
+  SaveSetup(field, state);
+}
+
+void ShowSetup_Click(Battlefield& field, ArmyState& state) {
+  field.Setup.setupFramePanel.Visible = false;
+  ShowPanel(state, Panel::Setup);
+}
+
+}  // namespace tarnwick
