@@ -309,7 +309,7 @@ int main(int argc, char* argv[]) {
   if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
-  ApplyStyle(application);
+  ApplyStyle();
 
   const fs::path out = fs::absolute(argv[2]);
   fs::remove_all(out);

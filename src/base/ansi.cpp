@@ -40,13 +40,15 @@ char32_t TakeCodePoint(std::string_view& utf8) {
   const unsigned lead = Byte(utf8.front());
   utf8.remove_prefix(1);
   if (lead < 0x80) return lead;
-  const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
+  constexpr char32_t smallest[] = {0, 0x80, 0x800, 0x10000};
+  const std::size_t more = lead >= 0xF8 ? 0 : lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0;
   if (more == 0 || utf8.size() < more) return broken;
   char32_t codePoint = lead & (0x3FU >> more);
   for (std::size_t i = 0; i < more; ++i) {
     if ((Byte(utf8[i]) & 0xC0U) != 0x80) return broken;
     codePoint = (codePoint << 6U) | (Byte(utf8[i]) & 0x3FU);
   }
+  if (codePoint < smallest[more]) return broken;
   utf8.remove_prefix(more);
   return codePoint;
 }

@@ -29,7 +29,8 @@ class Int16 {
   friend constexpr Int16 operator-(Int16 a, Int16 b) { return a.value_ - b.value_; }
   friend constexpr Int16 operator*(Int16 a, Int16 b) { return a.value_ * b.value_; }
   friend constexpr Int16 operator-(Int16 a) { return -a.value_; }
-  friend constexpr auto operator<=>(Int16 a, Int16 b) = default;
+  friend constexpr bool operator==(Int16 a, Int16 b) { return a.value_ == b.value_; }
+  friend constexpr auto operator<=>(Int16 a, Int16 b) { return a.value_ <=> b.value_; }
 
  private:
   using Limits = std::numeric_limits<std::int16_t>;

@@ -46,7 +46,7 @@ void CheckWritable(const fs::path& file) {
 
 }  // namespace
 
-OutputFile::OutputFile(fs::path target) : target_(BehindLinks(target)), newFile_(target_) {
+OutputFile::OutputFile(const fs::path& target) : target_(BehindLinks(target)), newFile_(target_) {
   CheckWritable(target_);
   newFile_ += ".new";
   out_.open(newFile_, std::ios::binary | std::ios::trunc);

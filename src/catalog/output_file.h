@@ -13,7 +13,7 @@ namespace tarnwick {
 class OutputFile {
  public:
   /// Throws FileError when the folder is missing or the target may not be written.
-  explicit OutputFile(std::filesystem::path target);
+  explicit OutputFile(const std::filesystem::path& target);
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
   /// Drops what was written unless the file was closed.

@@ -53,7 +53,7 @@ bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index) {
 }
 
 std::string PrintDeckInfo(const ArmyState& state) {
-  const std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
+  std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
   Int16 unitCards;
   for (Int16 r = 1; r <= state.TotUnits; ++r) {
     if (state.BaseUnits[r].Bought > 0) unitCards += state.BaseUnits[r].Bought;

@@ -17,8 +17,8 @@ QColor ClassicColour(int index) {
   return index == lightBlue ? QColor(0x55, 0x55, 0xFF) : QColor(Qt::black);
 }
 
-void ApplyStyle(QApplication& application) {
-  application.setStyle(QStyleFactory::create("Fusion"));
+void ApplyStyle() {
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
   const QColor window(0xF3, 0xF5, 0xF6);
   QPalette palette(QColor(0xE9, 0xED, 0xEF), window);
   palette.setColor(QPalette::WindowText, Qt::black);

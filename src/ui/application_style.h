@@ -4,12 +4,10 @@
 
 #include <QColor>
 
-class QApplication;
-
 namespace tarnwick {
 
-/// Gives the program its own light palette, whatever the desktop's theme.
-void ApplyStyle(QApplication& application);
+/// Gives the application its own light palette, whatever the desktop's theme.
+void ApplyStyle();
 
 /// The one accent: the panel in front, the focus, selections.
 QColor AccentColour();

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/entry_guard.h"
 
-#include <utility>
-
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -27,8 +25,8 @@ EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
   qApp->installEventFilter(this);
 }
 
-void EntryGuard::Watch(QWidget* box, std::function<bool()> accepted) {
-  checks_.insert(box, std::move(accepted));
+void EntryGuard::Watch(QWidget* box, const std::function<bool()>& accepted) {
+  checks_.insert(box, accepted);
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
 

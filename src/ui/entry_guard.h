@@ -21,7 +21,7 @@ class EntryGuard : public QObject {
   explicit EntryGuard(QObject* parent = nullptr);
 
   /// `accepted` runs when `box` is left and says whether it may be.
-  void Watch(QWidget* box, std::function<bool()> accepted);
+  void Watch(QWidget* box, const std::function<bool()>& accepted);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;

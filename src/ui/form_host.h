@@ -18,6 +18,8 @@ class Session;
 class FormHost : public Host {
  public:
   FormHost() = default;
+  FormHost(const FormHost&) = delete;
+  FormHost& operator=(const FormHost&) = delete;
   ~FormHost() override;
 
   /// The dialogs work on `session`. Must be called before any of them is shown.

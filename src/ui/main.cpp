@@ -11,7 +11,7 @@
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
   QApplication application(argc, argv);
-  ApplyStyle(application);
+  ApplyStyle();
 
   WorkingArmy work(QCoreApplication::applicationDirPath().toStdU16String());
   FormHost host;

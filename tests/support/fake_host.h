@@ -21,7 +21,7 @@ class FakeHost : public Host {
  public:
   std::vector<std::string> Said;  ///< messages and questions in their order
   std::deque<bool> Answers;
-  std::function<void()> OnArmySelectionForm, OnLeaderMgmtForm, OnSpecForm;
+  std::function<void()> OnArmySelectionForm, OnArmyListForm, OnLeaderMgmtForm, OnSpecForm;
   std::vector<std::filesystem::path> Pictures;
 
   /// What was said since the last call.
@@ -39,6 +39,7 @@ class FakeHost : public Host {
     return answer;
   }
   void ShowArmySelectionForm() override { Run(OnArmySelectionForm, "army selection"); }
+  void ShowArmyListForm() override { Run(OnArmyListForm, "saved armies"); }
   void ShowLeaderMgmtForm() override { Run(OnLeaderMgmtForm, "leader"); }
   void ShowSpecForm() override { Run(OnSpecForm, "special abilities"); }
   void ShowPicture(const std::filesystem::path& file) override { Pictures.push_back(file); }

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "rules/verification.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/errors.h"
+#include "rules/base_army_selection.h"
+#include "support/sample_state.h"
+
+namespace tarnwick {
+namespace {
+
+/// What the limits say of the units bought, by row: 1 LI, 2 LP, 3 HI, 4 HI of class x, 5 CO of
+/// class Vet, 6 HC, 7 LM, 8 CO without a class.
+std::string Verify(const std::string& limits, const std::map<int, int>& bought, int leader = 0) {
+  SampleState sample(
+      "tot_units=8\nunit1=LI,,3,1,,5,9,\nunit2=LP,,3,1,,5,9,\nunit3=HI,,3,1,,5,9,\n"
+      "unit4=HI,x,3,1,,5,9,\nunit5=CO,Vet,3,1,,5,9,\nunit6=HC,,3,1,,5,9,\n"
+      "unit7=LM,,3,1,,5,9,\nunit8=CO,,3,1,,5,9,\ntot_limits=" +
+      std::to_string(std::count(limits.begin(), limits.end(), '\n')) + "\n" + limits);
+  for (const auto& [row, count] : bought)
+    sample.State.BaseUnits[row].Bought = count;
+  sample.State.SelectedLeader = leader;
+  const bool passed = VerifyArmy(sample.State, sample.Host, false);
+  const Lines said = sample.Host.Heard();
+  EXPECT_EQ(passed, said.empty());
+  EXPECT_EQ(VerifyArmy(sample.State, sample.Host, true), passed);
+  EXPECT_EQ(sample.Host.Heard(), passed ? Lines{"Army is OK"} : said);
+  return said.empty() ? "" : said.front();
+}
+
+TEST(VerifyArmy, ReportsTheFirstFailure) {
+  const std::string atLeast = "You must buy at least ";
+  const struct {
+    const char* Limits;
+    std::map<int, int> Bought;
+    std::string Message;
+  } cases[] = {
+      {"", {}, ""},
+      {"limit1=HC,2\n", {{6, 1}}, atLeast + "2 units of type HC"},
+      {"limit1=HC,2\n", {{6, 2}}, ""},
+      {"limit1=LI+LP,4\n", {{1, 2}, {2, 2}}, ""},
+      {"limit1=LI+LP,4\n", {{1, 2}, {2, 1}}, atLeast + "4 units of type LI or LP"},
+      {"limit1=LI+LP,4\n", {{1, 5}, {2, -3}}, ""},  // what is below 0 counts as none
+      // Types that a class splits.
+      {"limit1=HI,2\n", {{3, 1}, {4, 5}}, atLeast + "2 units of type HI"},
+      {"limit1=HI,2,y\n", {{3, 5}, {4, 2}}, ""},
+      {"limit1=HI,2,y\n", {{3, 5}}, atLeast + "2 units of class y"},
+      {"limit1=CO,1,Vet\n", {{8, 5}}, atLeast + "1 units of class Vet"},
+      // A class limit counts the alternative, of no class, and does not name it.
+      {"limit1=CO+HI,3,Vet\n", {{5, 1}, {3, 2}}, ""},
+      {"limit1=CO+HI,3,Vet\n", {{5, 1}, {4, 2}}, atLeast + "3 units of class Vet"},
+      // All that the classification does not know is counted together.
+      {"limit1=SM,3\n", {{7, 1}, {8, 2}}, ""},
+      // In the order of the limits, and before the leader.
+      {"limit1=HI,1\nlimit2=HC,1\nlimit3=LI,1\n", {{3, 1}}, atLeast + "1 units of type HC"},
+      {"limit1=HC,0\n", {}, ""}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(Verify(c.Limits, c.Bought), c.Message) << c.Limits;
+    const std::string leaderless = c.Message.empty() ? "Please select a Leader" : c.Message;
+    EXPECT_EQ(Verify(c.Limits, c.Bought, -1), leaderless) << c.Limits;
+  }
+}
+
+TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
+  SampleState sample("tot_limits=2\nlimit1=HI,1\nlimit2=HC,1\n");
+  ArmyState& state = sample.State;
+  state.SelectedLeader = 0;
+  state.Units.TypeLimit[0].Tag = "2";
+  state.Units.MinLimit[0].Caption = "1.5 men";
+  VerifyBtn_Click(state, sample.Host);
+  EXPECT_EQ(sample.Host.Heard(), Lines{"You must buy at least 1.5 men units of type HC"});
+  state.Units.TypeLimit[0].Tag = "";
+  EXPECT_THROW(VerifyBtn_Click(state, sample.Host), SubscriptError);
+  state.Units.TypeLimit[0].Tag = "11";
+  EXPECT_THROW(VerifyBtn_Click(state, sample.Host), SubscriptError);
+
+  SampleState large("tot_units=2\nunit1=MI,,3,1,,5,9,\nunit2=MI,,3,1,,5,9,\n");
+  for (const int row : {1, 2})
+    large.State.BaseUnits[row].Bought = 20000;
+  EXPECT_THROW(VerifyArmy(large.State, large.Host, false), OverflowError);
+}
+
+TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
+  SampleState sample("[Armies]\ntotal=3\nname1=Gaul\nname3=Epirus\nname4=Too many\n");
+  ArmyState& state = sample.State;
+  ArmySelectionForm form;
+  form.ArmyList.AddItem("left over");
+  FillArmySelection(state, form);
+  EXPECT_EQ(form.ArmyList.Entries, (std::vector<ListEntry>{{"Gaul", 0}, {"", 0}, {"Epirus", 0}}));
+  EXPECT_EQ(state.BaseArmyName, "");
+  for (const int line : {-1, 1}) {
+    form.ArmyList.ListIndex = line;
+    EXPECT_FALSE(ConfirmArmySelection(state, sample.Host, form));
+    EXPECT_EQ(sample.Host.Heard(), Lines{"Please select one army"});
+    EXPECT_EQ(state.BaseArmyName, "");
+  }
+  form.ArmyList.ListIndex = 2;
+  EXPECT_TRUE(ConfirmArmySelection(state, sample.Host, form));
+  EXPECT_EQ(state.BaseArmyName, "Epirus");
+
+  FillArmySelection(state, form);
+  EXPECT_EQ(form.ArmyList.ListIndex, -1);
+  EXPECT_EQ(state.BaseArmyName, "");
+  sample.Folder.Write("armylist.dat", "");
+  FillArmySelection(state, form);
+  EXPECT_EQ(form.ArmyList.Entries.size(), 0U);
+}
+
+}  // namespace
+}  // namespace tarnwick
