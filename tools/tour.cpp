@@ -86,7 +86,8 @@ class Tour {
   }
 
   /// Drags a piece, or picks it and puts it down where the platform knows no dragging.
-  void Drag(const QString& piece, const QString& area, const std::function<void()>& see = [] {}) {
+  void Drag(
+      const QString& piece, const QString& area, const std::function<void()>& see = [] {}) {
     if (WindowDriver::CanDrag()) {
       driver_.Drag(piece, area, see);
     } else {

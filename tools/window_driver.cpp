@@ -80,7 +80,9 @@ void WindowDriver::Click(const QString& name) {
   ClickAt(widget, QPoint(qMin(12, widget.width() / 2), widget.height() / 2));
 }
 
-bool WindowDriver::CanDrag() { return QGuiApplication::platformName() != "offscreen"; }
+bool WindowDriver::CanDrag() {
+  return QGuiApplication::platformName() != "offscreen";
+}
 
 void WindowDriver::Drag(const QString& from, const QString& to, const Script& onTheWay) {
   QWidget& source = Find(from);

@@ -39,16 +39,17 @@ bool EndsInLineEnd(std::string_view text) {
   return !text.empty() && lineEnds.find(text.back()) != std::string_view::npos;
 }
 
-struct KeyLine {
+struct NameAndValue {
   std::string_view Name;
   std::string_view Value;
 };
 
-std::optional<KeyLine> ParseKeyLine(std::string_view line) {
+std::optional<NameAndValue> ParseKeyLine(std::string_view line) {
   line = TrimBlanks(line);
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos || line.front() == ';') return std::nullopt;
-  return KeyLine{TrimBlanks(line.substr(0, equals)), Unquote(TrimBlanks(line.substr(equals + 1)))};
+  return NameAndValue{TrimBlanks(line.substr(0, equals)),
+                      Unquote(TrimBlanks(line.substr(equals + 1)))};
 }
 
 std::string_view ParseHeaderName(std::string_view line) {
@@ -123,6 +124,26 @@ std::optional<std::string_view> ProfileText::Find(std::string_view section, std:
   const auto value = values->find(key);
   if (value == values->end()) return std::nullopt;
   return value->second;
+}
+
+std::vector<ProfileText::KeyLine> ProfileText::KeyLines() const {
+  std::vector<KeyLine> keyLines;
+  ByName<ByName<bool>> known;
+  for (std::size_t header = FindHeader(text_, 0); header < text_.size();) {
+    std::string_view rest = text_.substr(header);
+    const std::string_view section = ParseHeaderName(TakeLine(rest));
+    const std::size_t lines = text_.size() - rest.size();
+    header = FindHeader(text_, lines);
+    const bool again = known.contains(section);
+    ByName<bool>& keys = known[section];
+    for (rest = text_.substr(lines, header - lines); !rest.empty();) {
+      const auto line = ParseKeyLine(TakeLine(rest));
+      if (!line) continue;
+      const bool first = keys.try_emplace(line->Name, true).second;
+      keyLines.push_back({section, line->Name, line->Value, again || !first});
+    }
+  }
+  return keyLines;
 }
 
 std::string ProfileText::With(std::string_view section, std::string_view key,

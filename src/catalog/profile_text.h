@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace tarnwick {
 
@@ -27,6 +28,18 @@ class ProfileText {
   /// The value without the blanks and the one pair of quotes around it, however long; nothing
   /// when there is no such section or key. Spaces around the names don't count.
   std::optional<std::string_view> Find(std::string_view section, std::string_view key);
+
+  /// A line of the form key=value. A doubled one can't be found: an earlier line, or an earlier
+  /// section of the same name, stands before it.
+  struct KeyLine {
+    std::string_view Section;
+    std::string_view Key;
+    std::string_view Value;
+    bool Doubled = false;
+  };
+
+  /// All key lines behind the first section header.
+  std::vector<KeyLine> KeyLines() const;
 
   /// The text with `key` set to `value`. An existing key keeps its place and spelling, a new one
   /// goes behind the last key of its section, a new section to the end. All other bytes stay;

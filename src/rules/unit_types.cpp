@@ -58,6 +58,10 @@ Int16 UnitTypeCode(std::string_view type, std::string_view unitClass) {
   return found == typeCodes.end() ? 0 : found->second;
 }
 
+bool IsUnitType(std::string_view type) {
+  return UnitTypeCode(type, "Vet") != 0 || type == "SM" || type == "LM";
+}
+
 Int16 MountedKind(const ArmyState& state, std::string_view type, Int16 row) {
   if (type == "SK") return skirmishers;
   if (std::find(mountedTypes.begin(), mountedTypes.end(), type) != mountedTypes.end()) {

@@ -13,6 +13,9 @@ namespace tarnwick {
 /// that no limit can name. Case counts.
 Int16 UnitTypeCode(std::string_view type, std::string_view unitClass);
 
+/// Whether the rules know the type. Case counts.
+bool IsUnitType(std::string_view type);
+
 /// What a type fights as.
 inline constexpr int foot = 0, skirmishers = 1, mounted = 2;
 

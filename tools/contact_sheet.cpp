@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+// Draws all unit pictures of a program folder, each with its row of the image catalogs, on one
+// sheet.
+
+#include <cstdio>
+#include <filesystem>
+
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPainter>
+
+#include "base/ansi.h"
+#include "catalog/image_catalog.h"
+#include "catalog/profile_files.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int columns = 10;
+constexpr QSize cell(132, 150);
+constexpr int pictureSide = 96;
+
+QString Text(const std::string& ansi) {
+  return QString::fromStdString(Utf8FromAnsi(ansi));
+}
+
+QImage ReadPicture(const fs::path& folder, const std::string& id) {
+  fs::path file = PathIn(folder, id);
+  if (!FileExists(file)) file = PathIn(folder / "brakka", id);
+  QImageReader reader(QString::fromStdU16String(file.u16string()));
+  reader.setScaledSize(reader.size().scaled(pictureSide, pictureSide, Qt::KeepAspectRatio));
+  return reader.read();
+}
+
+void DrawCell(QPainter& painter, const QRect& area, const ImageRec& image, const QImage& picture) {
+  painter.drawImage(area.left() + (area.width() - pictureSide) / 2, area.top() + 4, picture);
+  const QRect caption = area.adjusted(2, pictureSide + 8, -2, -2);
+  painter.drawText(caption, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                   Text(image.Name + "\n" + image.Type + "," + image.Class + "," + image.Missile));
+}
+
+bool DrawSheet(const fs::path& folder, const QString& target) {
+  ImageCatalog catalog;
+  // The Brakka module's catalog takes in the base game's.
+  LoadImages(catalog, ProfileFiles(), folder, true, "");
+  const int rows = (catalog.TotImages.Value() + columns - 1) / columns;
+  QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
+  sheet.fill(Qt::white);
+  QPainter painter(&sheet);
+  QFont font = painter.font();
+  font.setPixelSize(11);
+  painter.setFont(font);
+  for (int i = 0; i < catalog.TotImages.Value(); ++i) {
+    const ImageRec& image = catalog.Images[i + 1];
+    const QPoint corner(i % columns * cell.width(), i / columns * cell.height());
+    DrawCell(painter, QRect(corner, cell), image, ReadPicture(folder, image.Id));
+  }
+  painter.end();
+  return sheet.save(target);
+}
+
+}  // namespace
+}  // namespace tarnwick
+
+int main(int argc, char* argv[]) {
+  if (argc != 3) {
+    std::fputs("usage: contact-sheet FOLDER PNG\n", stderr);
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  if (tarnwick::DrawSheet(argv[1], argv[2])) return 0;
+  std::fprintf(stderr, "%s cannot be written\n", argv[2]);
+  return 1;
+}
