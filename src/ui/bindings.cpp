@@ -100,7 +100,11 @@ void Bindings::Add(QPlainTextEdit* widget, TextBox& control) {
     const QString text = ToQt(control.Text);
     if (widget->toPlainText() == text) return;
     const QSignalBlocker quiet(widget);
+    QTextCursor cursor = widget->textCursor();
+    const int position = qMin(cursor.position(), static_cast<int>(text.size()));
     widget->setPlainText(text);
+    cursor.setPosition(position);
+    widget->setTextCursor(cursor);
   });
 }
 

@@ -15,8 +15,12 @@ namespace {
 /// Where a mouse event goes: the window sees it first, then the widget.
 QWidget* ClickedWidget(QObject* object, const QMouseEvent& event) {
   if (object->isWidgetType()) return static_cast<QWidget*>(object);
-  return object->isWindowType() ? QApplication::widgetAt(event.globalPosition().toPoint())
-                                : nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->windowHandle() != object) continue;
+    QWidget* child = window->childAt(event.position().toPoint());
+    return child != nullptr ? child : window;
+  }
+  return nullptr;
 }
 
 }  // namespace

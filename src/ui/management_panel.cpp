@@ -4,7 +4,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 #include "armyfile/loading.h"
@@ -14,12 +13,6 @@
 #include "ui/widgets.h"
 
 namespace tarnwick {
-namespace {
-
-/// A file system's names have 255 bytes; a character takes up to three, the ending its own.
-constexpr int longestFileName = 80;
-
-}  // namespace
 
 ManagementPanelWidget::ManagementPanelWidget(Session& session)
     : PanelWidget(Panel::Management, "Army Managemet", session) {
@@ -46,11 +39,7 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   ManagementPanel& management = session_.Work.Army.Management;
   auto* frame = NewFrame("", "Army", this);
   auto* name = NewTextBox("ArmyName", frame);
-  auto* file = NewTextBox("ArmyFileName", frame);
-  file->setMaxLength(longestFileName);
-  // A name with one of these would lead out of the folder, or could not be stored everywhere.
-  file->setValidator(
-      new QRegularExpressionValidator(QRegularExpression(R"([^/\\:*?"<>|]*)"), file));
+  auto* file = NewFileNameBox("ArmyFileName", frame);
   auto* fileHint = NewLabel("NewArmyFile", "", frame);
   fileHint->setForegroundRole(QPalette::PlaceholderText);
   name->setMinimumWidth(TextWidth(name, 48));

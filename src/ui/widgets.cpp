@@ -20,6 +20,9 @@ namespace {
 /// What a line of a file gives back at the most, in bytes.
 constexpr int longestValue = 254;
 
+/// A file system's names have 255 bytes; a character takes up to three, the ending its own.
+constexpr int longestFileName = 80;
+
 class QuantityValidator : public QValidator {
  public:
   using QValidator::QValidator;
@@ -31,6 +34,18 @@ class QuantityValidator : public QValidator {
     } catch (const OverflowError&) {
       return Invalid;
     }
+  }
+};
+
+/// Keeps out what would lead out of the folder or could not be stored everywhere.
+class FileNameValidator : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& /*cursor*/) const override {
+    // As the state holds it: a character that the code page lacks becomes one of these.
+    const bool plain = FromQt(text).find_first_of("/\\:*?\"<>|") == std::string::npos;
+    return plain ? Acceptable : Invalid;
   }
 };
 
@@ -62,8 +77,10 @@ class DescriptionBox : public QPlainTextEdit {
       QTextCursor cursor(document());
       cursor.setPosition(end - cut);
       cursor.setPosition(end, QTextCursor::KeepAnchor);
-      inserted_ = 0;  // the removal below is no insertion to cut
+      inserted_ = 0;                   // the removal below is no insertion to cut
+      cursor.joinPreviousEditBlock();  // undo takes back what was typed and the cut at once
       cursor.removeSelectedText();
+      cursor.endEditBlock();
       inserted_ = left;
       insertedEnd_ = end - cut;
     }
@@ -103,6 +120,14 @@ QLineEdit* NewQuantityBox(const QString& name, QWidget* parent) {
   auto* box = NewTextBox(name, parent);
   box->setValidator(&validator);
   box->setAlignment(Qt::AlignRight);
+  return box;
+}
+
+QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
+  static const FileNameValidator validator;
+  auto* box = NewTextBox(name, parent);
+  box->setMaxLength(longestFileName);
+  box->setValidator(&validator);
   return box;
 }
 

@@ -33,6 +33,9 @@ QLineEdit* NewTextBox(const QString& name, QWidget* parent);
 /// A box for a quantity; it takes no keystroke that makes the number leave 16 bits.
 QLineEdit* NewQuantityBox(const QString& name, QWidget* parent);
 
+/// A box for the name of a file in the program folder.
+QLineEdit* NewFileNameBox(const QString& name, QWidget* parent);
+
 /// A box of several lines that stops at what one line of a file can hold, when each of its line
 /// breaks takes `lineBreakSize` bytes there.
 QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent);
