@@ -81,12 +81,12 @@ void TerrainTile::mouseMoveEvent(QMouseEvent* event) {
 void TerrainTile::Drag() {
   auto* piece = new QMimeData;
   piece->setData(pieceFormat, QByteArray::number(kind_));
-  QDrag drag(this);
-  drag.setMimeData(piece);
-  drag.setPixmap(
+  auto* drag = new QDrag(this);  // the drag machinery deletes it
+  drag->setMimeData(piece);
+  drag->setPixmap(
       picture_.scaled(size() * devicePixelRatio(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-  drag.setHotSpot(rect().center());
-  drag.exec(Qt::CopyAction);
+  drag->setHotSpot(rect().center());
+  drag->exec(Qt::CopyAction);
 }
 
 void TerrainTile::dragEnterEvent(QDragEnterEvent* event) {

@@ -29,11 +29,11 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 namespace tarnwick {
 
-/// The one application of the test program, without a display.
+/// The one application of the test program, without a display unless it is given one.
 class Application : public testing::Environment {
  public:
   void SetUp() override {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(argc_, argv_);
     ApplyStyle();
   }
@@ -186,6 +186,10 @@ inline void WindowTest::ExpectWindowShowsState() const {
   ExpectShown("ToData", Work.Header.ToData.Text, true);
   ExpectShown("ArmyDesc", Work.Header.ArmyDesc.Text, true);
   EXPECT_EQ(Ticked("TYPE_IsFantasy"), Work.Header.TYPE_IsFantasy.Value);
+  ExpectShown("ArmyPts", Work.Field.Terrain.ArmyPts.Caption, true);
+  ExpectShown("CommandPts", Work.Field.Terrain.CommandPts.Caption, true);
+  ExpectCaptions("unit", Work.Field.Setup.unit, 9);
+  ExpectShown("description", Work.Field.Setup.description.Text, true);
 }
 
 }  // namespace tarnwick
