@@ -123,8 +123,8 @@ void Tour::ChooseArmy() {
   });
   driver_.Click("NewArmyBtn");
   Expect({"Please select one army"});
-  driver_.Enter("ArmyName", "Hannibal at the Trebia");
-  driver_.Enter("ArmyFileName", "Trebia");
+  driver_.Enter("ArmyName", "Hannibal at the Ticinus");
+  driver_.Enter("ArmyFileName", "Ticinus");
   TakePicture(form_, "army-management");
 }
 
@@ -237,9 +237,9 @@ void Tour::Load() {
   std::puts("Loading it again");
   driver_.OnDialog([this] {
     driver_.Click("Command1");
-    driver_.ClickEntry("ArmyList", 0);
+    driver_.ClickEntry("ArmyList", "Ticinus");
     TakePicture(driver_.Find("ArmyListForm"), "browser");
-    driver_.ClickEntry("ArmyList", 0, true);
+    driver_.ClickEntry("ArmyList", "Ticinus", true);
   });
   driver_.Click("LoadBtn");
   Expect({"This army has not been created whit this editor"});
@@ -269,15 +269,15 @@ void Tour::Deploy() {
 void Tour::SaveAgainAndDelete() {
   std::puts("Saving with the setups, and deleting a copy");
   driver_.Click("QuickSave");
-  Expect({"Do you want to replace the existing Trebia.army file ?", "Army Saved"});
+  Expect({"Do you want to replace the existing Ticinus.army file ?", "Army Saved"});
   driver_.Click("ShowSaveFrame");
   driver_.Enter("ArmyFileName", "Copy");
   driver_.Click("SaveBtn");
   Expect({"Army Saved"});
   driver_.OnDialog([this] {
-    driver_.ClickEntry("ArmyList", 0);
+    driver_.ClickEntry("ArmyList", "Copy");
     driver_.Click("DelArmy");
-    driver_.ClickEntry("ArmyList", 0, true);
+    driver_.ClickEntry("ArmyList", "Ticinus", true);
   });
   driver_.Click("LoadBtn");
   Expect({"Do You really want to delete the army Copy ?"});
@@ -291,7 +291,7 @@ void Tour::Save() {
   Expect({"Army Saved"});
   driver_.CancelNextMessage();
   driver_.Press(Qt::Key_S, Qt::ControlModifier);
-  Expect({"Do you want to replace the existing Trebia.army file ?"});
+  Expect({"Do you want to replace the existing Ticinus.army file ?"});
   TakePicture(form_, "saved");
 }
 

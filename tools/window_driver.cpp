@@ -147,6 +147,13 @@ void WindowDriver::ClickEntry(const QString& name, int row, bool twice) {
   Settle();
 }
 
+void WindowDriver::ClickEntry(const QString& name, const QString& text, bool twice) {
+  auto& list = Find<QListWidget>(name);
+  const auto found = list.findItems(text, Qt::MatchExactly);
+  if (found.isEmpty()) Fail(name + " with the entry " + text);
+  ClickEntry(name, list.row(found.front()), twice);
+}
+
 QStringList WindowDriver::TakeMessages() {
   return std::exchange(messages_, {});
 }

@@ -47,6 +47,7 @@ class WindowDriver {
   void Choose(const QString& name, int entry);
   /// Selects an entry of a list by a click, or chooses it by a double click.
   void ClickEntry(const QString& name, int row, bool twice = false);
+  void ClickEntry(const QString& name, const QString& text, bool twice = false);
 
   /// The next dialog that opens, message boxes aside, is worked by `script`; one that is still
   /// open afterwards is closed by its window frame.

@@ -53,6 +53,9 @@ inline testing::Environment* const application = testing::AddGlobalTestEnvironme
 struct WindowTest : testing::Test {
   WindowTest() {
     std::filesystem::copy(SHIPPED_DATA, Folder.Path(), std::filesystem::copy_options::recursive);
+    for (const char* army : {"Alesia.army", "Chaironeia.army", "Kadesh.army", "Trebia.army"}) {
+      std::filesystem::remove(Folder / army);  // the tests save their own
+    }
     User.Serve(Events);
   }
 
