@@ -52,9 +52,10 @@ void FillArmyList(const ArmyState& state, ArmyListForm& form) {
   form.ArmyList.Clear();
   std::vector<std::pair<std::string, std::string>> names;  // folded for sorting, as it is
   std::error_code error;
-  for (const auto& file : fs::directory_iterator(ModuleFolder(state), error)) {
-    if (!file.path().native().ends_with(ending) || !file.is_regular_file(error)) continue;
-    std::string name = AnsiFromPath(file.path().filename());
+  fs::directory_iterator file(ModuleFolder(state), error);
+  for (; file != fs::directory_iterator(); file.increment(error)) {
+    if (!file->path().native().ends_with(ending) || !FileExists(file->path())) continue;
+    std::string name = AnsiFromPath(file->path().filename());
     name.resize(name.size() - ending.size());
     std::string folded = LowerCase(name);
     names.emplace_back(std::move(folded), std::move(name));

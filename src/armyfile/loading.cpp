@@ -29,8 +29,9 @@ class ArmyLoader {
 
   void Load() {
     ReadHeader();
-    if (!LoadCatalogs() || !LoadUnits()) return;
-    ShowSelectUnits(army_);
+    const bool complete = LoadCatalogs() && LoadUnits();
+    ShowSelectUnits(army_);  // what there is, when the loading ends here
+    if (!complete) return;
     army_.PointsLeft -= army_.PointsSpent;
     LoadLeader();
     LoadCards();

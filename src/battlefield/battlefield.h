@@ -27,7 +27,7 @@ struct TerrainPanel {
 struct SetupPanel {
   ListBox setupList;
   Frame setupFramePanel{.Caption = "", .Visible = false};
-  TextBox description;
+  TextBox description{.Text = "<insert the setup description here>", .Tag = ""};
   Table<Label, 0, 8> unit;  ///< the nine places
   ListBox unitList;         ///< the units that no place holds
 };

@@ -31,7 +31,7 @@ bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index) {
     return false;
   }
   box.Text = NumberText(typed);
-  const Int16 quantity = RoundToInt16(Int(typed));
+  const Int16 quantity = RoundToInt16(Int(LenientNumber(box.Text)));
   const std::string& maximum = state.Command.SpecMaxLabel[index].Caption;
   if (LenientNumber(maximum) < quantity.Value()) {
     host.Message("You can only buy " + maximum + " cards");

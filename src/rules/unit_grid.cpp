@@ -120,9 +120,10 @@ void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line) {
 
 void specLabel_Click(ArmyState& state, Host& host, Int16 line) {
   // A reset leaves the lines without their units until the grid is filled again.
-  if (state.Units.Buy[line].Tag.empty()) ShowSelectUnits(state);
-  if (state.Units.specLabel[line].Caption.empty()) return;
-  state.SpecUnitRow = StrictInt16(state.Units.Buy[line].Tag);
+  const std::string& tag = state.Units.Buy[line].Tag;
+  if (tag.empty()) ShowSelectUnits(state);
+  if (tag.empty() || state.Units.specLabel[line].Caption.empty()) return;
+  state.SpecUnitRow = StrictInt16(tag);
   host.ShowSpecForm();
 }
 

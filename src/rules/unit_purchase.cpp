@@ -50,7 +50,7 @@ bool BuyUnits(ArmyState& state, Host& host, Int16 index) {
     return true;
   }
   box.Text = NumberText(typed);
-  const Int16 quantity = RoundToInt16(Int(typed));
+  const Int16 quantity = RoundToInt16(Int(LenientNumber(box.Text)));
   const std::string& maximum = grid.MaxLabel[index].Caption;
   if (LenientNumber(maximum) < quantity.Value()) {
     host.Message("You can only buy " + maximum + " units");

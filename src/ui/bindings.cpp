@@ -52,6 +52,14 @@ QStringList Texts(const QListWidget& widget) {
   return texts;
 }
 
+/// A text that was pasted may have line breaks, which no line of a file can hold.
+QString OneLine(QString text) {
+  for (QChar& c : text) {
+    if (c.category() == QChar::Other_Control) c = ' ';
+  }
+  return text;
+}
+
 /// −1 without a selection; the row that has the cursor need not be selected.
 int SelectedRow(const QListWidget& widget) {
   const QList<QListWidgetItem*> selected = widget.selectedItems();
@@ -87,18 +95,18 @@ void Bindings::Add(QLineEdit* widget, TextBox& control) {
     ShowVisible(widget, control.Visible);
   };
   QObject::connect(widget, &QLineEdit::textEdited, widget, [&control, show](const QString& text) {
-    control.Text = FromQt(text);
-    show();  // what the code page does not know shows as what the file will hold
+    control.Text = FromQt(OneLine(text));
+    show();  // as the file will hold it
   });
   Add(show);
 }
 
 void Bindings::Add(QPlainTextEdit* widget, TextBox& control) {
   QObject::connect(widget, &QPlainTextEdit::textChanged, widget,
-                   [widget, &control] { control.Text = FromQt(widget->toPlainText()); });
+                   [widget, &control] { control.Text = FromQt(PlainText(*widget)); });
   Add([widget, &control] {
     const QString text = ToQt(control.Text);
-    if (widget->toPlainText() == text) return;
+    if (PlainText(*widget) == text) return;
     const QSignalBlocker quiet(widget);
     QTextCursor cursor = widget->textCursor();
     const int position = qMin(cursor.position(), static_cast<int>(text.size()));

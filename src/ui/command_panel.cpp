@@ -109,9 +109,7 @@ void CommandPanelWidget::AddCardRow() {
   bindings_.Add(most, command.SpecMaxLabel[j]);
   bindings_.Add(quantity, command.SpecBuy[j]);
   session_.Guard.Watch(quantity, [this, j] {
-    bool accepted = true;
-    session_.Run([&] { accepted = !SpecBuy_Validate(session_.Work.Army, session_.User, j); });
-    return accepted;
+    return session_.Allows([&] { return !SpecBuy_Validate(session_.Work.Army, session_.User, j); });
   });
 }
 

@@ -51,8 +51,7 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     auto* row = new QHBoxLayout(half);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(NewLabel(labelName, caption, half));
-    auto* year = NewTextBox(boxName, half);
-    year->setAlignment(Qt::AlignRight);
+    auto* year = NewQuantityBox(boxName, half);
     year->setFixedWidth(TextWidth(year, 8));
     row->addWidget(year);
     QButtonGroup* eras = NewOptions(eraName, 2, half);
@@ -63,9 +62,7 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     bindings_.Add(year, box);
     bindings_.Add(eras, era);
     session_.Guard.Watch(year, [this, validate] {
-      bool accepted = true;
-      session_.Run([&] { accepted = !validate(session_.Work.Header, session_.User); });
-      return accepted;
+      return session_.Allows([&] { return !validate(session_.Work.Header, session_.User); });
     });
     connect(eras, &QButtonGroup::idClicked, this,
             [this, click] { session_.Run([this, click] { click(session_.Work.Header); }); });

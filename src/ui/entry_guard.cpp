@@ -31,6 +31,7 @@ EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
 
 void EntryGuard::Watch(QWidget* box, const std::function<bool()>& accepted) {
   checks_.insert(box, accepted);
+  box->setAcceptDrops(false);  // a text dropped on a box without the focus is never left
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
 

@@ -42,14 +42,17 @@ bool FormHost::Question(const std::string& text) {
 
 void FormHost::ShowArmySelectionForm() {
   ArmySelectionDialog(*session_, QApplication::activeWindow()).exec();
+  session_->Rethrow();
 }
 
 void FormHost::ShowArmyListForm() {
   ArmyListDialog(*session_, QApplication::activeWindow()).exec();
+  session_->Rethrow();
 }
 
 void FormHost::ShowLeaderMgmtForm() {
   LeaderDialog(*session_, QApplication::activeWindow()).exec();
+  session_->Rethrow();
 }
 
 void FormHost::ShowSpecForm() {

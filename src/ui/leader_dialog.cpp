@@ -43,9 +43,10 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent) : QDialog(parent),
             [this] { Run([this] { UpdateLeaderCost(form_); }); });
   }
   session_.Guard.Watch(command, [this] {
-    bool refused = false;
-    Run([&] { refused = CommandBox_Validate(form_, session_.User); });
-    return !refused;
+    const bool allowed =
+        session_.Allows([&] { return !CommandBox_Validate(form_, session_.User); });
+    bindings_.Refresh();
+    return allowed;
   });
   connect(define, &QPushButton::clicked, this, [this] {
     Run([this] {

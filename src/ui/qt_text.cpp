@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt_text.h"
 
+#include <QPlainTextEdit>
+#include <QTextDocument>
+
 #include "base/ansi.h"
 #include "base/text.h"
 
@@ -18,6 +21,12 @@ QString ToQt(std::string_view ansi) {
 
 std::string FromQt(const QString& text) {
   return ReplaceText("\n", CrLf, AnsiFromUtf8(text.toStdString()));
+}
+
+QString PlainText(const QPlainTextEdit& box) {
+  QString text = box.document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
+  return text;
 }
 
 QString ButtonText(std::string_view ansi) {

@@ -7,6 +7,8 @@
 
 #include <QString>
 
+class QPlainTextEdit;
+
 namespace tarnwick {
 
 /// A text of the state as Qt has it; any of the state's line breaks becomes "\n".
@@ -14,6 +16,9 @@ QString ToQt(std::string_view ansi);
 
 /// A text of a widget as the state holds it; line breaks become CR LF.
 std::string FromQt(const QString& text);
+
+/// The text of a box of several lines; a no-break space stays one.
+QString PlainText(const QPlainTextEdit& box);
 
 /// `text` for a button, whose "&" would otherwise mark a shortcut.
 QString ButtonText(std::string_view ansi);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <utility>
 
@@ -25,10 +26,18 @@ class Session {
   void OnChange(std::function<void()> refresh) { refresh_ = std::move(refresh); }
 
   /// Runs an operation and shows the state. A run-time error that the operation does not catch is
-  /// named in a message box and ends the program with exit status 1; then the result is false.
+  /// named in a message box and ends the program with exit status 1. Then the result is false, and
+  /// no operation runs any more.
   bool Run(const std::function<void()>& operation);
 
+  /// Runs an operation that says whether the user may go on; an error says no.
+  bool Allows(const std::function<bool()>& operation);
+
+  /// Lets the error that has ended the program end the operation, too, that opened a dialog.
+  void Rethrow() const;
+
  private:
+  std::exception_ptr error_;
   std::function<void()> refresh_ = [] {};
 };
 

@@ -39,9 +39,11 @@ QWidget* SetupPanelWidget::NewSetupList() {
     session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
   });
   // An entry that is selected already shows its setup again, as after the panel hid it.
-  connect(list, &QListWidget::itemClicked, this, [this] {
+  const auto choose = [this] {
     session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
-  });
+  };
+  connect(list, &QListWidget::itemClicked, this, choose);
+  connect(list, &QListWidget::itemActivated, this, choose);
   Connect(create, [this] { Command6_Click(session_.Work.Field, session_.Work.Army); });
   Connect(remove, [this] { Command3_Click(session_.Work.Army); });
   return side;

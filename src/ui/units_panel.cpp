@@ -167,9 +167,7 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   quantity->setFixedWidth(TextWidth(grid, headings[buy].Characters));
   put(quantity, buy, units.Buy[line]);
   session_.Guard.Watch(quantity, [this, line] {
-    bool accepted = true;
-    session_.Run([&] { accepted = !Buy_Validate(session_.Work.Army, session_.User, line); });
-    return accepted;
+    return session_.Allows([&] { return !Buy_Validate(session_.Work.Army, session_.User, line); });
   });
 
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));

@@ -10,6 +10,7 @@
 #include <QTextDocument>
 #include <QValidator>
 
+#include "base/ansi.h"
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "ui/qt_text.h"
@@ -20,8 +21,8 @@ namespace {
 /// What a line of a file gives back at the most, in bytes.
 constexpr int longestValue = 254;
 
-/// A file system's names have 255 bytes; a character takes up to three, the ending its own.
-constexpr int longestFileName = 80;
+/// A file system's names have 255 bytes; ".army.new" takes its own.
+constexpr std::size_t longestFileName = 246;
 
 class QuantityValidator : public QValidator {
  public:
@@ -44,8 +45,9 @@ class FileNameValidator : public QValidator {
 
   State validate(QString& text, int& /*cursor*/) const override {
     // As the state holds it: a character that the code page lacks becomes one of these.
-    const bool plain = FromQt(text).find_first_of("/\\:*?\"<>|") == std::string::npos;
-    return plain ? Acceptable : Invalid;
+    const std::string name = FromQt(text);
+    const bool plain = name.find_first_of("/\\:*?\"<>|") == std::string::npos;
+    return plain && Utf8FromAnsi(name).size() <= longestFileName ? Acceptable : Invalid;
   }
 };
 
@@ -63,7 +65,7 @@ class DescriptionBox : public QPlainTextEdit {
 
  private:
   int StoredSize() const {
-    const QString text = toPlainText();
+    const QString text = PlainText(*this);
     return static_cast<int>(text.size() + text.count('\n') * (lineBreakSize_ - 1));
   }
 
@@ -126,7 +128,6 @@ QLineEdit* NewQuantityBox(const QString& name, QWidget* parent) {
 QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
   static const FileNameValidator validator;
   auto* box = NewTextBox(name, parent);
-  box->setMaxLength(longestFileName);
   box->setValidator(&validator);
   return box;
 }
