@@ -142,6 +142,10 @@ TEST_F(WindowTest, TextBoxesTakeWhatAFileCanHold) {
   Hands.Enter("ArmyName", QString::fromUtf8("Ω né€"));
   EXPECT_EQ(Text("ArmyName"), QString::fromUtf8("? né€"));
   EXPECT_EQ(Work.Army.Management.ArmyName.Text, "? n\xE9\x80");
+  QApplication::clipboard()->setText("two\nlines");
+  Hands.Enter("ArmyName", "");
+  Hands.Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Work.Army.Management.ArmyName.Text, "two lines");
   Hands.Enter("ArmyFileName", "a/b\\c:d.e");
   EXPECT_EQ(Text("ArmyFileName"), "abcd.e");
   Hands.Enter("ArmyFileName", QString::fromUtf8("aΩ/b"));
