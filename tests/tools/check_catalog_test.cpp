@@ -97,7 +97,7 @@ const Fault faults[] = {
     {"armylist.dat", "unit2=SK,,3,1", "unit2=SK,,3,",
      "armylist.dat: [Host] unit2: The size \"\" is no number."},
     {"armylist.dat", "unit2=SK,,3,1,J", "unit2=SK,,3,1,A",
-     "armylist.dat: [Host] unit2: The missile \"A\" is saved as \"AF\" and never found again."},
+     R"(armylist.dat: [Host] unit2: The missile "A" is saved as "AF" and never found again.)"},
     {"armylist.dat", "unit2=SK,,3,1,J", "unit2=SK,,3,1,S",
      "armylist.dat: [Host] unit2: No picture fits the row; a unit of it could not be saved."},
     {"armylist.dat", "unit2=SK,,3,1,J,4,8,", "unit2=HI,,5,4,,9,8,",

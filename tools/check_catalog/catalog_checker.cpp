@@ -176,7 +176,7 @@ void ModuleCheck::CheckUnit(const std::string& army, const std::string& key,
   }
   if (!IsNumber(unit.TQ)) report("The TQ \"" + unit.TQ + "\" is no number.");
   if (!IsNumber(unit.Size)) report("The size \"" + unit.Size + "\" is no number.");
-  if (unit.Missile == "A") report("The missile \"A\" is saved as \"AF\" and never found again.");
+  if (unit.Missile == "A") report(R"(The missile "A" is saved as "AF" and never found again.)");
   const bool pictured =
       std::any_of(state_.Catalog.Images.begin(),
                   state_.Catalog.Images.begin() + state_.Catalog.TotImages.Value(),
