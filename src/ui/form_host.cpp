@@ -13,7 +13,7 @@
 #include "ui/picture_form.h"
 #include "ui/qt_text.h"
 #include "ui/session.h"
-#include "ui/spec_dialog.h"
+#include "ui/special_dialog.h"
 
 namespace tarnwick {
 namespace {
@@ -56,7 +56,7 @@ void FormHost::ShowLeaderMgmtForm() {
 }
 
 void FormHost::ShowSpecForm() {
-  SpecDialog(SpecialAbilitiesText(session_->Work.Army), QApplication::activeWindow()).exec();
+  SpecialDialog(SpecialAbilitiesText(session_->Work.Army), QApplication::activeWindow()).exec();
 }
 
 void FormHost::ShowPicture(const std::filesystem::path& file) {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include "ui/spec_dialog.h"
+#include "ui/special_dialog.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -10,7 +10,7 @@
 
 namespace tarnwick {
 
-SpecDialog::SpecDialog(const std::string& text, QWidget* parent) : QDialog(parent) {
+SpecialDialog::SpecialDialog(const std::string& text, QWidget* parent) : QDialog(parent) {
   setObjectName("specForm");
   setWindowTitle("Special Abilities");
   auto* label = NewLabel("specText", ToQt(text), this);

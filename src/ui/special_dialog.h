@@ -9,9 +9,9 @@
 namespace tarnwick {
 
 /// The special abilities of a unit.
-class SpecDialog : public QDialog {
+class SpecialDialog : public QDialog {
  public:
-  SpecDialog(const std::string& text, QWidget* parent);
+  SpecialDialog(const std::string& text, QWidget* parent);
 };
 
 }  // namespace tarnwick
