@@ -118,22 +118,6 @@ TEST_F(Saving, NeedsAnArmyThatPassesVerification) {
   EXPECT_EQ(Saved(), "old");
 }
 
-TEST_F(Saving, TheSecondModuleKeepsItsTerrainInTheProgramFolder) {
-  sample_.ChooseModule(1);
-  Start("Sample Army");
-  work_.Field.AreaTerrain[0] = "CAMP";
-  sample_.Folder.Write("Tyre.army", "[ARMY]\nname=another\n");
-  EXPECT_EQ(Save(), Lines{"Army Saved"});  // asks for the module's file only
-  std::string fantasy = plainArmy;
-  fantasy.replace(fantasy.find("type="), 5, "type=F");
-  EXPECT_EQ(sample_.Folder.Read("brakka/Tyre.army"), fantasy);
-  std::string terrain = clearTerrain;
-  terrain.replace(terrain.find("CLEAR"), 5, "CAMP");
-  EXPECT_EQ(Saved(), "[ARMY]\nname=another\n" + terrain);
-  sample_.Host.Answers = {false};
-  EXPECT_EQ(Save(), Lines{question});
-}
-
 TEST_F(Saving, SetupsGoWithTheNameOfTheLoadedArmy) {
   Save();
   EXPECT_FALSE(sample_.Folder.Has(".army"));  // no army was loaded, and there are no setups

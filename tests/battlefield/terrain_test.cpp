@@ -13,19 +13,6 @@
 namespace tarnwick {
 namespace {
 
-TEST(Terrain, KindsHaveTheirPrices) {
-  Battlefield field;
-  field.AreaTerrain[0] = "WOOD";
-  InitTerrainKinds(field);
-  std::string prices;
-  for (const auto& kind : field.TerrainKinds) {
-    prices +=
-        kind.Name + " " + NumberText(kind.ArmyCost) + "/" + NumberText(kind.CommandCost) + ";";
-  }
-  EXPECT_EQ(prices, "CLEAR 0/0;SLOPE 30/5;CAMP 60/10;WOOD 20/0;MOUNTAIN 50/15;CLIFF 150/0;");
-  EXPECT_EQ(field.AreaTerrain[0], "CLEAR");
-}
-
 TEST(Terrain, AllNineAreasAreSaved) {
   const TempFolder folder;
   ProfileFiles files;

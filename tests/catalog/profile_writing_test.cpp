@@ -85,24 +85,6 @@ TEST(ProfileWriting, WhatCanNotBeWrittenStaysAndIsA0) {
   EXPECT_FALSE(folder.Has("file.dat.new"));
 }
 
-TEST(ProfileWriting, PermissionsOfTheSystemProtectTheFile) {
-  if (geteuid() == 0) GTEST_SKIP() << "nothing stops this user";
-  const TempFolder folder;
-  ProfileFiles files;
-  folder.Write("file.dat", "[s]\nk=1\n");
-  fs::permissions(folder / "file.dat", fs::perms::owner_write);  // unreadable
-  EXPECT_EQ(files.ReadIniString("s", "k", folder / "file.dat"), "");
-  EXPECT_EQ(files.WriteIniString("s", "j", "9", folder / "file.dat"), 0);
-  fs::permissions(folder / "file.dat", fs::perms::owner_read | fs::perms::owner_write);
-  EXPECT_EQ(folder.Read("file.dat"), "[s]\nk=1\n");
-
-  fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
-  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "file.dat"), 0);
-  EXPECT_EQ(files.WriteIniString("s", "k", "9", folder / "other.dat"), 0);
-  fs::permissions(folder.Path(), fs::perms::owner_all);
-  EXPECT_EQ(folder.Read("file.dat"), "[s]\nk=1\n");
-}
-
 class KeptFiles : public testing::Test {
  protected:
   void Write(std::string_view value) {

@@ -117,17 +117,5 @@ TEST_F(LeaderDialog, DefinesLeadersThatNobodyHasChosenYet) {
   EXPECT_EQ(state_.Command.LeaderName[4].Caption, " Cato the Elder 40 [ 4 / 0 ] ");
 }
 
-TEST_F(LeaderDialog, TheEighthLeaderHasNoButtonAndTheTwelfthNoRow) {
-  form_.LeaderName.Text = "Cato";
-  Cost(0, 0);
-  for (int i = 3; i < 7; ++i)
-    EXPECT_TRUE(DefineLeader(state_, sample_.Host, form_));
-  for (int i = 7; i < 12; ++i) {
-    EXPECT_THROW(DefineLeader(state_, sample_.Host, form_), SubscriptError);
-  }
-  EXPECT_EQ(state_.Leaders[10].Name, "Cato");
-  EXPECT_EQ(state_.LeaderCount, 12);
-}
-
 }  // namespace
 }  // namespace tarnwick

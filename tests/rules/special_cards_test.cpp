@@ -66,15 +66,6 @@ TEST_F(Cards, ZeroStaysInABoxWithoutCardsOnly) {
   EXPECT_EQ(Row(0), " (0 paid), 11 left");
 }
 
-TEST_F(Cards, PricesAreRoundedToTheEvenNeighbour) {
-  Buy(1, "1");
-  EXPECT_EQ(Row(1), "1 (1 paid), 9 left");  // 1.5 goes to 2
-  Buy(1, "3");
-  EXPECT_EQ(Row(1), "3 (3 paid), 7 left");  // 4.5 goes to 4
-  Buy(1, "");
-  EXPECT_EQ(Row(1), " (0 paid), 12 left");  // 11.5 goes to 12
-}
-
 TEST_F(Cards, NegativeQuantitiesGivePointsAndAreNotReleased) {
   EXPECT_EQ(Buy(0, "-1.5"), "");
   EXPECT_EQ(Row(0), "-2 (-2 paid), 15 left");

@@ -115,15 +115,6 @@ TEST_F(Purchase, WhatLeaves16BitsAndDividingByZeroAreErrors) {
   EXPECT_EQ(Line(2), "301 for 0, 300 bought");
 }
 
-TEST_F(Purchase, TheTagNamesTheRow) {
-  TickOption(grid_.ViewOption, 2);
-  state_.BaseUnits[2].Bought = 1;
-  ShowSelectUnits(state_);
-  EXPECT_EQ(Buy(0, "2"), "");
-  EXPECT_EQ(state_.BaseUnits[1].Bought, 0);
-  EXPECT_EQ(state_.BaseUnits[2].Bought, 2);
-}
-
 TEST_F(Purchase, ALineWhoseTagWasEmptiedIsFilledAgainFirst) {
   for (int k = 0; k <= 22; ++k)
     grid_.Buy[k].Tag = "";

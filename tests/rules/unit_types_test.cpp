@@ -60,18 +60,6 @@ TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
   }
 }
 
-TEST(SpecialAbilitiesText, NamesTheUnitAndExplains) {
-  const TempFolder folder;
-  folder.Write("specials.dat", "[Wyvern]\nspecial=FLY\n[SPECIALS]\nFLY=Over all\n");
-  ArmyState state(folder.Path());
-  state.BaseUnits[200] = Unit("LM", "3", "Wyvern");
-  state.SpecUnitRow = 200;
-  EXPECT_EQ(SpecialAbilitiesText(state),
-            "Special abilities for the unit: LM\r\n\r\n\r\n*FLY=Over all");
-  state.SpecUnitRow = 0;
-  EXPECT_THROW(SpecialAbilitiesText(state), SubscriptError);
-}
-
 TEST(LeaderCost, OnlyInitiative7PaysForCommand2) {
   const struct {
     int Initiative, Command, Cost;
@@ -104,15 +92,6 @@ TEST(UnitPoints, FourTypesAreSpecial) {
   EXPECT_THROW(UnitPoints(state, 1), OverflowError);
   EXPECT_THROW(UnitPoints(state, 0), SubscriptError);
   EXPECT_THROW(UnitPoints(state, 201), SubscriptError);
-}
-
-TEST(RowCost, ReadsTheCostLeniently) {
-  EXPECT_EQ(RowCost(3, "7"), 21);
-  EXPECT_EQ(RowCost(1, "2.5"), 2);
-  EXPECT_EQ(RowCost(3, "2.5"), 8);
-  EXPECT_EQ(RowCost(-2, "7 points"), -14);
-  EXPECT_EQ(RowCost(3, "x"), 0);
-  EXPECT_THROW(RowCost(2, "16384"), OverflowError);
 }
 
 }  // namespace

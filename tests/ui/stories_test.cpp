@@ -94,30 +94,6 @@ TEST_F(WindowTest, ALeaderIsChosenWithinTheCommandPoints) {
   expectChosen(0, "32");
 }
 
-TEST_F(WindowTest, ALeaderIsDefinedInTheDialog) {
-  NewArmy(0);
-  Hands.Click("ShowCommandBtn");
-  Hands.OnDialog([this] {
-    EXPECT_EQ(Hands.Find("LeaderMgmtForm").windowTitle(), "LeaderMgmt");
-    Hands.Choose("InitiativeBox", 3);
-    EXPECT_EQ(Text("leaderCost"), "0");
-    Hands.Choose("CommandBox", 1);
-    EXPECT_EQ(Text("leaderCost"), "150");
-    Hands.Click("Command1");
-    EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please insert the leader's name"});
-    Hands.Enter("LeaderName", "Sosylos & son");
-    Hands.Click("Command1");
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  });
-  Hands.Click("LeaderBtn");
-  EXPECT_EQ(Text("LeaderName(5)"), "Sosylos && son 150 [ 7 / 2 ] ");  // "&&" shows as "&"
-  EXPECT_TRUE(Hands.Find("LeaderName(5)").isVisible());
-  EXPECT_FALSE(Ticked("LeaderName(5)"));
-  EXPECT_EQ(Points(), "400/0 250");
-  Hands.Click("LeaderName(5)");
-  EXPECT_EQ(Points(), "400/0 100");
-}
-
 TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
   NewArmy(0);
   Hands.Click("ShowUnitsBtn");
