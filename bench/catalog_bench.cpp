@@ -149,6 +149,7 @@ BENCHMARK(NextLoad)->UseRealTime()->Unit(benchmark::kMicrosecond);
 /// Ten thousand different keys of an unchanged file in no order: all units of every 40th army.
 void ReadKeys(benchmark::State& state) {
   std::vector<std::pair<std::string, std::string>> keys;
+  keys.reserve(keysPerRun);
   for (int i = 0; i < keysPerRun; ++i) {
     keys.emplace_back(ArmyNameOf(1 + i / unitRows * 40), RowKey("unit", Int16(1 + i % unitRows)));
   }
