@@ -171,8 +171,9 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   });
 
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
-  pictures->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  pictures->setMinimumContentsLength(12);
+  // Its width is the column's; a policy that measures entries would cost at the start.
+  pictures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  pictures->setMinimumWidth(TextWidth(pictures, 18));
   pictures->setMaximumWidth(TextWidth(pictures, 40));
   pictures->setFocusPolicy(Qt::StrongFocus);
   put(pictures, image, units.ImageName[line]);
