@@ -13,110 +13,97 @@
 namespace tarnwick {
 namespace {
 
-struct ArmyBrowser : testing::Test {
-  void Select(const std::string& name) {
-    Form.ArmyList.Select(name);
-    ShowArmyDetail(Work.Army, Form);
-  }
-
-  std::string Entries() const {
+class ArmyBrowser : public testing::Test {
+ protected:
+  /// Lists the armies, by name, and selects one.
+  std::string Select(const std::string& name) {
+    FillArmyList(work_.Army, form_);
+    form_.ArmyList.Select(name);
+    ShowArmyDetail(work_.Army, form_);
     std::string names;
-    for (const ListEntry& entry : Form.ArmyList.Entries)
+    for (const ListEntry& entry : form_.ArmyList.Entries)
       names += entry.Text + ";";
     return names;
   }
 
-  TempFolder Folder;
-  WorkingArmy Work{Folder.Path()};
-  FakeHost Host;
-  ArmyListForm Form;
+  /// Whether the selected army is chosen, and what is said then.
+  std::string Choose() {
+    const bool chosen = SelectArmy(work_, host_, form_);
+    const Lines said = host_.Heard();
+    EXPECT_EQ(chosen, said.empty());
+    return chosen ? "chosen" : said.front();
+  }
+
+  TempFolder folder_;
+  WorkingArmy work_{folder_.Path()};
+  FakeHost host_;
+  ArmyListForm form_;
 };
 
 TEST_F(ArmyBrowser, ListsAndDescribesArmyFiles) {
-  for (const char* name : {"zama.army", "Alesia.army", "\xC3\x89lan.army", "b.army", "c.ARMY",
-                           "d.army.new", "brakka/troll.army"}) {
-    Folder.Write(name, "[ARMY]\nbase=Host\n");
+  for (const char* name : {"Zama.army", "alesia.army", "\xC3\x89lan.army", "b.army", "c.ARMY",
+                           "d.army.new", "brakka/troll.army", "folder.army/x"}) {
+    folder_.Write(name,
+                  "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Ana\ninitiative=7\ncommand=2\n[ARMY]\n"
+                  "name=The B\nbase=Host\nnumunits=12\nroute=30 %\npoints=90\nTQ=\nrally=2\n");
   }
-  Folder.Write("folder.army/x", "");
-  FillArmyList(Work.Army, Form);
-  EXPECT_EQ(Entries(), "Alesia;b;zama;\xC9lan;");
-  Folder.Write("b.army",
-               "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Ana\ninitiative=7\ncommand=2\n"
-               "[ARMY]\nname=The B\nbase=Host\nnumunits=12\nroute=30 %\npoints=90\nTQ=\nrally=2\n");
-  Select("b");
-  EXPECT_EQ(Form.ArmyDetailLabel.Caption,
-            "\n\rName: The B\n\rBase: Host\n\rUnits: 12\n\rRoute %: 30\n\rPoints: 90\n\r"
-            "TQ points: 0\n\rRally cards: 2\n\rFlank cards: \n\rLeader: Ana\n\r  command: 2\n\r"
-            "  initiative: 7");
-  EXPECT_TRUE(SelectArmy(Work, Host, Form));
-  EXPECT_EQ(Work.Header.ArmyFile, "b");
-  Work.Army.BrakkaMode = true;
-  FillArmyList(Work.Army, Form);
-  EXPECT_EQ(Entries(), "troll;");
+  EXPECT_EQ(Select("b"), "alesia;b;Zama;\xC9lan;");
+  const std::string detail =
+      "\n\rName: The B\n\rBase: Host\n\rUnits: 12\n\rRoute %: 30\n\rPoints: 90\n\r"
+      "TQ points: 0\n\rRally cards: 2\n\rFlank cards: \n\rLeader: Ana\n\r  command: 2\n\r"
+      "  initiative: 7";
+  EXPECT_EQ(form_.ArmyDetailLabel.Caption, detail);
+  EXPECT_EQ(Choose() + work_.Header.ArmyFile, "chosenb");
+  work_.Army.BrakkaMode = true;
+  // Armies of the second module are weighed by their namesakes in the program folder.
+  folder_.Write("troll.army", "[EDITOR]\nversion=9.5\n");
+  EXPECT_EQ(Select("troll"), "troll;");
+  EXPECT_EQ(form_.ArmyDetailLabel.Caption, detail + "\n\r\n\r*** Required editor version: 9.5");
+  EXPECT_EQ(Choose() + work_.Header.ArmyFile, "This army need version 9.5 or betterb");
 }
 
 TEST_F(ArmyBrowser, WeighsVersionsAsOneNumber) {
-  const struct {
-    const char* Version;
-    bool Accepted;
-  } versions[] = {{"1.2.1", true},   {"0.9.9", true},  {"", true},      {"1.3.0", false},
-                  {"1.1.15", false}, {"1.1.11", true}, {"1.2", true},   {"1.2.1.9", true},
-                  {"2", false},      {"new", true},    {"1.2.1b", true}};
-  for (const auto& [version, accepted] : versions) {
-    SCOPED_TRACE(version);
-    Folder.Write("x.army", std::string("[EDITOR]\nversion=") + version + "\n[ARMY]\nbase=Host\n");
-    FillArmyList(Work.Army, Form);
+  const auto choose = [this](const std::string& version) {
+    folder_.Write("x.army", "[EDITOR]\nversion=" + version + "\n[ARMY]\nbase=Host\n");
     Select("x");
-    const std::string end = std::string("\n\r\n\r*** Required editor version: ") + version;
-    EXPECT_EQ(Form.ArmyDetailLabel.Caption.ends_with(end), !accepted);
-    EXPECT_EQ(SelectArmy(Work, Host, Form), accepted);
-    const std::string refusal = std::string("This army need version ") + version + " or better";
-    EXPECT_EQ(Host.Heard(), accepted ? Lines() : Lines{refusal});
-  }
-  // The second module's files are weighed by their namesakes in the program folder.
-  Folder.Write("brakka/y.army", "[EDITOR]\nversion=9\n[ARMY]\nbase=Host\n");
-  Work.Army.BrakkaMode = true;
-  FillArmyList(Work.Army, Form);
-  Select("y");
-  EXPECT_TRUE(SelectArmy(Work, Host, Form));
+    return Choose();
+  };
+  for (const char* version : {"1.2.1", "0.9.9", "1.1.11", "1.2", "1.2.1.9", "1.2.1b", "new"})
+    EXPECT_EQ(choose(version), "chosen") << version;
+  for (const std::string version : {"1.3.0", "1.1.15", "1.2.2", "2"})
+    EXPECT_EQ(choose(version), "This army need version " + version + " or better");
 }
 
 TEST_F(ArmyBrowser, ChoosesOnlyWhatThisEditorMade) {
-  Folder.Write("other.army", "some other program's\n");
-  Folder.Write("own.army", "[ARMY]\nbase=Host\n");
-  FillArmyList(Work.Army, Form);
-  const Lines foreign = {"This army has not been created whit this editor"};
-  EXPECT_FALSE(SelectArmy(Work, Host, Form));
-  EXPECT_EQ(Host.Heard(), foreign);
+  folder_.Write("other.army", "some other program's\n");
+  folder_.Write("own.army", "[ARMY]\nbase=Host\n");  // of no version
+  const std::string foreign = "This army has not been created whit this editor";
+  EXPECT_EQ(Choose(), foreign);
   Select("other");
-  EXPECT_FALSE(SelectArmy(Work, Host, Form));
-  EXPECT_EQ(Host.Heard(), foreign);
+  EXPECT_EQ(Choose(), foreign);
   Select("own");
-  Form.ArmyList.ListIndex = -1;
-  EXPECT_FALSE(SelectArmy(Work, Host, Form));
-  EXPECT_EQ(Host.Heard(), Lines{"Please select one army"});
-  EXPECT_EQ(Work.Header.ArmyFile, "");
+  EXPECT_EQ(Choose(), "chosen");
+  form_.ArmyList.ListIndex = -1;
+  EXPECT_EQ(Choose(), "Please select one army");
+  Select("");
+  EXPECT_EQ(Choose(), foreign);  // listing the armies again forgets the one that was shown
 }
 
 TEST_F(ArmyBrowser, DeletesInTheProgramFolderAfterAQuestion) {
-  Folder.Write("a.army", "[ARMY]\n");
-  Folder.Write("brakka/a.army", "[ARMY]\n");
-  Work.Army.BrakkaMode = true;
-  FillArmyList(Work.Army, Form);
-  DelArmy_Click(Work.Army, Host, Form);  // nothing is selected
+  folder_.Write("a.army", "");
+  folder_.Write("brakka/a.army", "[ARMY]\n");
+  work_.Army.BrakkaMode = true;
+  DelArmy_Click(work_.Army, host_, form_);  // nothing is selected
+  host_.Answers = {false, true, true};
   Select("a");
-  Host.Answers = {false, true};
-  DelArmy_Click(Work.Army, Host, Form);
-  EXPECT_TRUE(Folder.Has("a.army"));
-  DelArmy_Click(Work.Army, Host, Form);
+  DelArmy_Click(work_.Army, host_, form_);
+  EXPECT_TRUE(folder_.Has("a.army"));
+  DelArmy_Click(work_.Army, host_, form_);
+  EXPECT_FALSE(folder_.Has("a.army") || form_.ArmyList.HasSelection());
+  EXPECT_EQ(Select("a"), "a;");
+  EXPECT_THROW(DelArmy_Click(work_.Army, host_, form_), FileError);
   const std::string question = "Do You really want to delete the army a ?";
-  EXPECT_EQ(Host.Heard(), (Lines{question, question}));
-  EXPECT_FALSE(Folder.Has("a.army"));
-  EXPECT_TRUE(Folder.Has("brakka/a.army"));
-  EXPECT_EQ(Entries(), "a;");
-  Select("a");
-  Host.Answers = {true};
-  EXPECT_THROW(DelArmy_Click(Work.Army, Host, Form), FileError);
+  EXPECT_EQ(host_.Heard(), (Lines{question, question, question}));
 }
 
 }  // namespace

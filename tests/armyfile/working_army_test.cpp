@@ -13,43 +13,24 @@
 namespace tarnwick {
 namespace {
 
-TEST(StartUp, ShowsTheManagementPanelAndReadsThePictures) {
-  const SampleArmy sample;
-  const ArmyState& army = sample.Work.Army;
-  EXPECT_EQ(army.Title, "Velmora Tarnwick ver. 1.2.1");
-  EXPECT_EQ(army.EditFrame.Front, 4);
-  EXPECT_TRUE(army.FormReady);
-  EXPECT_EQ(army.ArmyListFile, sample.Folder / "armylist.dat");
-  EXPECT_EQ(army.Catalog.TotImages, 5);
-  EXPECT_EQ(sample.Work.Field.AreaTerrain[8], "CLEAR");
-  EXPECT_EQ(sample.Work.Field.TerrainKinds[5].Name, "CLIFF");
-
-  sample.Folder.Write("images.dat", "[IMAGES]\ntotal=201\n");
-  WorkingArmy another(sample.Folder.Path());
-  EXPECT_THROW(Form_Load(another), SubscriptError);
-}
-
 class NewArmy : public testing::Test {
  protected:
   NewArmy() {
     sample_.NewArmy("Sample Army");
-    sample_.Buy(0, "2");
+    army_.BaseUnits[1].Bought = 2;
     army_.Management.ArmyName.Text = "Mine";
-    header_.ArmyDesc.Text = "Words";
-    ArmyDesc_Change(header_);
-    for (CheckBox* box :
-         {&header_.TribalCheck, &header_.Ferocity, &header_.Mobility, &header_.LongSword,
-          &header_.FOW, &header_.Discipline, &header_.TYPE_IsPersonal, &header_.TYPE_IsFantasy}) {
-      box->Value = true;
-    }
+    header_.ArmyDesc.Text = header_.ArmyDescription = "Words";
+    header_.TribalCheck.Value = header_.LongSword.Value = true;
+    header_.TYPE_IsPersonal.Value = header_.TYPE_IsFantasy.Value = true;
     sample_.Work.Field.AreaTerrain[4] = "WOOD";
   }
 
-  /// Names, points spent and the first area.
+  /// Name, description, rules, type, units of the first row, an area and the points.
   std::string Summary() const {
     return army_.Management.ArmyName.Text + "|" + header_.ArmyDesc.Text + header_.ArmyDescription +
            "|" + SpecialRulesText(header_) + "|" + ArmyTypeCode(header_) + "|" +
-           NumberText(army_.PointsSpent) + "|" + sample_.Work.Field.AreaTerrain[4];
+           NumberText(army_.BaseUnits[1].Bought) + "|" + sample_.Work.Field.AreaTerrain[4] + "|" +
+           NumberText(army_.PointsLeft);
   }
 
   SampleArmy sample_;
@@ -58,46 +39,45 @@ class NewArmy : public testing::Test {
 };
 
 TEST_F(NewArmy, StartsFromTheChosenBaseArmy) {
+  sample_.NewArmy("");  // a cancelled choice empties name and description only
+  EXPECT_EQ(Summary(), "||TRIBAL,LONGSWORD|FP|2|WOOD|500");
+  EXPECT_TRUE(army_.Units.Buy[0].Visible);
   sample_.NewArmy("Strict Army");
-  EXPECT_EQ(Summary(), "Strict Army|||P|0|CLEAR");
-  EXPECT_EQ(army_.PointsLeft, 100);
+  EXPECT_EQ(Summary(), "Strict Army|||P|0|CLEAR|100");
   EXPECT_EQ(army_.Command.LeaderName[0].Caption, "Milo 40 [ 4 / 1 ] ");
   EXPECT_FALSE(army_.Units.Buy[0].Visible);
-  EXPECT_EQ(army_.Units.TQinfo.Caption, "");
-}
-
-TEST_F(NewArmy, ACancelledChoiceEmptiesNameAndDescriptionOnly) {
-  sample_.NewArmy("");
-  EXPECT_EQ(Summary(), "||TRIBAL,FEROCITY,MOBILITY,LONGSWORD,FOW,DISCIPLINE|FP|32|WOOD");
-  EXPECT_EQ(army_.BaseUnits[1].Bought, 2);
-  EXPECT_TRUE(army_.Units.Buy[0].Visible);
 }
 
 TEST_F(NewArmy, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
+  EXPECT_EQ(army_.EditFrame.Front, 4);
   const std::string before = Summary();
   sample_.Folder.Write("brakka/armylist.dat", "[Trolls]\npoints=77\n");
-  sample_.ChooseModule(1);
-  EXPECT_TRUE(army_.BrakkaMode);
-  EXPECT_EQ(army_.ArmyListFile, sample_.Folder / "brakka/armylist.dat");
-  EXPECT_FALSE(header_.HistoricTab.Visible);
-  EXPECT_EQ(army_.Catalog.Images[1].Name, "Troll");
-  EXPECT_EQ(Summary(), before);
-
-  sample_.ChooseModule(0);
-  EXPECT_FALSE(army_.BrakkaMode);
-  EXPECT_EQ(army_.ArmyListFile, sample_.Folder / "armylist.dat");
-  EXPECT_TRUE(header_.HistoricTab.Visible);
-  EXPECT_EQ(army_.Catalog.TotImages, 5);
-
-  // The army that was loaded may name a further catalog.
-  sample_.Folder.Write("Tyre.army", "[ARMY]\nimages=images.dat\n");
+  // The army that was loaded names a further catalog; the second module, too, looks for it in the
+  // program folder, and shows no pictures of the base game then.
+  sample_.Folder.Write("Tyre.army", "[ARMY]\nimages=more.dat\n");
+  sample_.Folder.Write("brakka/Tyre.army", "[ARMY]\nimages=images.dat\n");
+  sample_.Folder.Write("more.dat", "[IMAGES]\ntotal=3 rows\nimage1=x, HI ,Vet,J,X\nimage3=z\n");
   header_.ArmyFile = "Tyre";
-  sample_.ChooseModule(1);
-  EXPECT_EQ(army_.Catalog.TotImages, 6);
+  for (const int module : {1, 0, 1}) {
+    sample_.ChooseModule(module);
+    EXPECT_EQ(army_.BrakkaMode, module == 1);
+    EXPECT_EQ(army_.ArmyListFile.parent_path().filename() == "brakka", module == 1);
+    EXPECT_EQ(header_.HistoricTab.Visible, module == 0);
+    std::string pictures;
+    for (Int16 i = 1; i <= army_.Catalog.TotImages; ++i)
+      pictures += army_.Catalog.Images[i].Id.substr(0, 14) + ";";
+    EXPECT_EQ(pictures, module == 1 ? "troll.svg;x;;z;"
+                                    : "pictures/vet.s;pictures/sk on;pictures/sk tw;"
+                                      "pictures/ph.sv;pictures/bi.sv;x;;z;");
+    const ImageRec& last = army_.Catalog.Images[army_.Catalog.TotImages - 2];
+    EXPECT_EQ(last.Type + last.Class + last.Missile + last.Name, " HI VetJX");
+    EXPECT_EQ(Summary(), before);
+  }
   header_.TYPE_IsFantasy.Value = false;
   sample_.NewArmy("Trolls");
-  EXPECT_EQ(Summary(), "Trolls|||FP|0|CLEAR");
-  EXPECT_EQ(army_.ArmyPoints, 77);
+  EXPECT_EQ(Summary(), "Trolls|||FP|0|CLEAR|77");
+  sample_.Folder.Write("images.dat", "[IMAGES]\ntotal=201\n");
+  EXPECT_THROW(Editor(sample_.Folder.Path()), SubscriptError);
 }
 
 }  // namespace

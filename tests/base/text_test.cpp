@@ -11,47 +11,42 @@
 namespace tarnwick {
 namespace {
 
-TEST(GetField, PicksFieldsAsTheyStand) {
+TEST(Text, FieldsArePickedAsTheyStand) {
   const struct {
     const char* Text;
     int N;
     const char* Separator;
     const char* Field;
-  } cases[] = {{"HI,,6", 1, ",", "HI"},   {"HI,,6", 2, ",", ""},    {"HI,,6", 3, ",", "6"},
-               {"HI,,6", 4, ",", ""},     {"HI", 2, ",", ""},       {"HI,", 2, ",", ""},
-               {"", 1, ",", ""},          {"", 2, ",", ""},         {"a b , c", 1, ",", "a b "},
-               {"a b , c", 2, ",", " c"}, {"HI+MI", 2, "+", "MI"},  {"HI", 1, "+", "HI"},
-               {"a,b", 2, "", "b"},       {"a,b+c", 1, "+", "a,b"}, {"a,b", 0, ",", ""},
-               {"a,b", -1, ",", ""},      {",b", 1, ",", ""},       {"a,b", 32767, ",", ""}};
-  for (const auto& c : cases) {
+  } cases[] = {{"HI,,6", 1, ",", "HI"},   {"HI,,6", 2, ",", ""},       {"HI,,6", 3, ",", "6"},
+               {"HI,,6", 4, ",", ""},     {"HI,", 2, ",", ""},         {"", 1, ",", ""},
+               {"a b , c", 2, ",", " c"}, {"a b , c", 1, ",", "a b "}, {"HI", 1, "+", "HI"},
+               {"a,b", 2, "", "b"},       {"a,b+c", 1, "+", "a,b"},    {"a,b", 0, ",", ""},
+               {"a,b", -1, ",", ""},      {"a,b", 32767, ",", ""}};
+  for (const auto& c : cases)
     EXPECT_EQ(GetField(c.Text, c.N, c.Separator), c.Field) << c.Text << " field " << c.N;
-  }
 }
 
-TEST(ReplaceText, GoesFromLeftToRightOnce) {
+TEST(Text, ReplacementsGoFromLeftToRightOnce) {
   EXPECT_EQ(ReplaceText(CrLf, "@", "a\r\n\r\nb\n\rc\r\n"), "a@@b\n\rc@");
-  EXPECT_EQ(ReplaceText("@", CrLf, "@a@"), "\r\na\r\n");
   EXPECT_EQ(ReplaceText("aa", "a", "aaaaa"), "aaa");
   EXPECT_EQ(ReplaceText("a", "aa", "aba"), "aabaa");
   EXPECT_EQ(ReplaceText("x", "y", "XxX"), "XyX");
-  EXPECT_EQ(ReplaceText("long", "y", "lon"), "lon");
   EXPECT_EQ(ReplaceText("", "y", "abc"), "abc");
-}
-
-TEST(Trim, TakesSpacesOnly) {
-  EXPECT_EQ(Trim("  a b  "), "a b");
-  EXPECT_EQ(Trim("\t3 "), "\t3");
+  EXPECT_EQ(Trim("  a b\t "), "a b\t");  // spaces only
   EXPECT_EQ(Trim("   "), "");
-  EXPECT_EQ(Trim(""), "");
 }
 
-TEST(Ansi, EveryByteComesBack) {
+TEST(Ansi, KnowsTheLettersOfTheCodePage) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string ansi(1, static_cast<char>(byte));
     EXPECT_EQ(AnsiFromUtf8(Utf8FromAnsi(ansi)), ansi) << byte;
   }
   EXPECT_EQ(Utf8FromAnsi("\x80 \x9F \xE9 \xFF~"), "€ Ÿ é ÿ~");
   EXPECT_EQ(AnsiFromUtf8("“Škoda” Ž…"), "\x93\x8Akoda\x94 \x8E\x85");
+  EXPECT_EQ(LowerCase("RALLY 2 [@`{"), "rally 2 [@`{");
+  EXPECT_EQ(LowerCase("\xC0\xC4\xDE \x8A\x8C\x8E\x9F"), "\xE0\xE4\xFE \x9A\x9C\x9E\xFF");
+  // Sharp s, the signs for multiplication and division, and what is small already.
+  EXPECT_EQ(LowerCase("\xDF\xD7\xF7\xE4\x9A\xFF\xA0\x83"), "\xDF\xD7\xF7\xE4\x9A\xFF\xA0\x83");
 }
 
 TEST(Ansi, WhatIsOutsideTheCodePageIsAQuestionMark) {
@@ -64,24 +59,13 @@ TEST(Ansi, WhatIsOutsideTheCodePageIsAQuestionMark) {
       {"\xC3(", "?("},       // start without its continuation
       {"\xE2\x82", "??"},    // cut off
       {"\xFFz", "?z"},       // never a byte of UTF-8
+      {"\xC1\xA1", "??"},    // spelled longer than it may be
   };
   for (const auto& c : cases)
     EXPECT_EQ(AnsiFromUtf8(c.Utf8), c.Ansi);
 }
 
-TEST(Ansi, ALetterSpelledLongerThanItMayBeIsNoUtf8) {
-  EXPECT_EQ(AnsiFromUtf8("\xC1\xA1"), "??");
-}
-
-TEST(Ansi, LowerCaseKnowsTheLettersOfTheCodePage) {
-  EXPECT_EQ(LowerCase("RALLY 2 [@`{"), "rally 2 [@`{");
-  EXPECT_EQ(LowerCase("\xC0\xC4\xDE \x8A\x8C\x8E\x9F"), "\xE0\xE4\xFE \x9A\x9C\x9E\xFF");
-  // Sharp s, the signs for multiplication and division, and what is small already.
-  EXPECT_EQ(LowerCase("\xDF\xD7\xF7\xE4\x9A\xFF\xA0\x83"), "\xDF\xD7\xF7\xE4\x9A\xFF\xA0\x83");
-}
-
 TEST(Paths, NamesStayBelowTheFolder) {
-  EXPECT_EQ(PathIn("/games", "Gaul.army"), "/games/Gaul.army");
   EXPECT_EQ(PathIn("/games", "/Gaul.army"), "/games/Gaul.army");
   EXPECT_EQ(PathIn("/games", "pictures/a.svg"), "/games/pictures/a.svg");
   EXPECT_EQ(PathIn("/games", "Z\xFCrich"), std::filesystem::path(u8"/games/Zürich"));

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "battlefield/setups.h"
 
+#include <filesystem>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -13,133 +13,148 @@
 namespace tarnwick {
 namespace {
 
-/// An army of three rows, two of them alike, in a folder of its own.
-struct SetupsTest : testing::Test {
-  SetupsTest() {
+/// A section of a setup with units on its first and its last place.
+std::string Section(const std::string& number, const std::string& description,
+                    const std::string& first = "", const std::string& last = "") {
+  return "[SETUP " + number + "]\r\ndescription=" + description + "\r\nfield1=" + first +
+         "\r\nfield2=\r\nfield3=\r\nfield4=\r\nfield5=\r\nfield6=\r\nfield7=\r\nfield8=\r\n"
+         "field9=" +
+         last + "\r\n";
+}
+
+/// An army of three rows, two of them alike.
+class Setups : public testing::Test {
+ protected:
+  Setups() {
     const char* const types[] = {"HI", "SK", "SK"};
     for (int r = 1; r <= 3; ++r) {
-      UnitRec& unit = State.BaseUnits[r];
+      UnitRec& unit = state_.BaseUnits[r];
       unit.UnitType = types[r - 1];
       unit.TQ = "4";
       unit.Size = "2";
       unit.Missile = "J";
     }
-    State.TotUnits = State.NumUnits = 3;
+    state_.NumUnits = 3;
   }
 
-  std::string Listed(const ListBox& list) const {
+  static std::string Listed(const ListBox& list) {
     std::string texts;
     for (const ListEntry& entry : list.Entries)
       texts += entry.Text + ";";
     return texts;
   }
+  std::string Scratch() const { return folder_.Read("working.setup"); }
 
-  std::string Scratch(const char* key, int setup = 1) const {
-    return State.Files.ReadIniString("SETUP " + std::to_string(setup), key,
-                                     Folder / "working.setup");
+  /// Clicks "<->" of a place; what lies there and what is listed comes back.
+  std::string Assign(int place, int selected) {
+    panel_.unitList.ListIndex = selected;
+    assignBtn_Click(field_, state_, host_, place);
+    EXPECT_FALSE(panel_.unitList.HasSelection());
+    return panel_.unit[place].Caption + " " + Listed(panel_.unitList);
+  }
+  void Describe(const char* text) {
+    panel_.description.Text = text;
+    description_Change(field_, state_);
   }
 
-  void Assign(int place, int selected) {
-    Setup.unitList.ListIndex = selected;
-    assignBtn_Click(Field, State, Host, place);
-  }
-
-  TempFolder Folder;
-  ArmyState State{Folder.Path()};
-  Battlefield Field;
-  SetupPanel& Setup = Field.Setup;
-  FakeHost Host;
+  TempFolder folder_;
+  ArmyState state_{folder_.Path()};
+  Battlefield field_;
+  SetupPanel& panel_ = field_.Setup;
+  FakeHost host_;
 };
 
-TEST_F(SetupsTest, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
-  Command6_Click(Field, State);
-  EXPECT_EQ(Listed(Setup.setupList), "1;");
-  EXPECT_EQ(Scratch("description"), "New setup");
-  EXPECT_TRUE(Setup.setupFramePanel.Visible);
-  EXPECT_EQ(Listed(Setup.unitList), "HI,,4,2,J;SK,,4,2,J;SK,,4,2,J;");
+TEST_F(Setups, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
+  Command6_Click(field_, state_);
+  EXPECT_EQ(Listed(panel_.setupList) + panel_.setupList.Text(), "1;1");
+  EXPECT_EQ(Scratch(), Section("1", "New setup"));
+  EXPECT_TRUE(panel_.setupFramePanel.Visible);
   Assign(0, 0);
-  Command6_Click(Field, State);
-  EXPECT_EQ(Field.CurrentSetup, 2);
-  EXPECT_EQ(Scratch("field1", 2), "HI,,4,2,J");  // as it was shown
-  EXPECT_EQ(Setup.unit[0].Caption, "");
-  Setup.description.Text = " two\r\nlines ";
-  description_Change(Field, State);
-  EXPECT_EQ(Scratch("field1", 2), "");
-  EXPECT_EQ(Scratch("description", 2), "two\\nlines");
-  Setup.description.Text = "  ";
-  description_Change(Field, State);
-  EXPECT_EQ(Scratch("description", 2), "<new setup>");
+  std::string before = Section("1", "New setup", "HI,,4,2,J");
+  EXPECT_EQ(Scratch(), before);
+  Command6_Click(field_, state_);
+  EXPECT_EQ(Scratch(), before + Section("2", "New setup", "HI,,4,2,J"));
+  EXPECT_EQ(panel_.unit[0].Caption + Listed(panel_.unitList), "HI,,4,2,J;SK,,4,2,J;SK,,4,2,J;");
+  Describe(" two\r\nlines ");
+  EXPECT_EQ(Scratch(), before + Section("2", "two\\nlines"));
+  Describe("  ");
+  EXPECT_EQ(Scratch(), before + Section("2", "<new setup>"));
+  state_.SetupLoading = true;
+  Describe("not written");
+  EXPECT_EQ(Scratch(), before + Section("2", "<new setup>"));
 
-  Setup.setupList.Clear();
+  panel_.setupList.Clear();
   for (const char* number : {"1", "5", "2"})
-    Setup.setupList.AddItem(number);
-  Command6_Click(Field, State);
-  EXPECT_EQ(Setup.setupList.Text(), "6");
+    panel_.setupList.AddItem(number);
+  Command6_Click(field_, state_);
+  EXPECT_EQ(Listed(panel_.setupList) + panel_.setupList.Text(), "1;5;2;6;6");
 }
 
-TEST_F(SetupsTest, ShowingASetupWritesNothing) {
-  const std::string stored = "[SETUP 3]\r\ndescription=  a\\nb \r\nfield2=SK,,4,2,J\r\n; mine\r\n";
-  Folder.Write("working.setup", stored);
-  Setup.setupList.AddItem("3");
-  setupList_Click(Field, State);  // nothing is selected
-  EXPECT_FALSE(Setup.setupFramePanel.Visible);
-  Setup.setupList.ListIndex = 0;
-  setupList_Click(Field, State);
-  EXPECT_EQ(Setup.description.Text, "a\r\nb");
-  EXPECT_EQ(Setup.unit[1].Caption, "SK,,4,2,J");
-  EXPECT_EQ(Listed(Setup.unitList), "HI,,4,2,J;");  // of two rows alike neither is listed
-  EXPECT_EQ(Folder.Read("working.setup"), stored);
-  State.SetupLoading = true;
-  SaveSetup(Field, State);
-  EXPECT_EQ(Folder.Read("working.setup"), stored);
+TEST_F(Setups, ShowingASetupWritesNothing) {
+  const std::string stored = "[SETUP 3]\r\ndescription=  a\\nb \r\nfield9=SK,,4,2,J\r\n; mine\r\n";
+  folder_.Write("working.setup", stored);
+  const auto stamp = std::filesystem::last_write_time(folder_ / "working.setup");
+  panel_.setupList.AddItem("3");
+  panel_.setupList.AddItem("4");
+  setupList_Click(field_, state_);  // nothing is selected
+  EXPECT_FALSE(panel_.setupFramePanel.Visible);
+  panel_.setupList.ListIndex = 0;
+  setupList_Click(field_, state_);
+  EXPECT_EQ(panel_.description.Text + panel_.unit[8].Caption, "a\r\nbSK,,4,2,J");
+  EXPECT_EQ(Listed(panel_.unitList), "HI,,4,2,J;");  // of two rows alike neither is listed
+  panel_.setupList.ListIndex = 1;
+  setupList_Click(field_, state_);
+  EXPECT_EQ(panel_.description.Text + panel_.unit[8].Caption, "");
+  EXPECT_EQ(field_.CurrentSetup, 4);
+  EXPECT_EQ(Scratch(), stored);
+  EXPECT_EQ(std::filesystem::last_write_time(folder_ / "working.setup"), stamp);
+
+  ShowSetup_Click(field_, state_);
+  EXPECT_FALSE(panel_.setupFramePanel.Visible);
+  Command3_Click(state_);  // deletes nothing but shows the monster laboratory
+  EXPECT_EQ(state_.EditFrame.Front, 5);
+  EXPECT_EQ(Listed(panel_.setupList), "3;4;");
+  NewMonster(state_.Monster);
+  EXPECT_EQ(state_.Monster.M_TQ.Text() + state_.Monster.M_Type.Text(), "4SM");
+  EXPECT_EQ(state_.Monster.M_Size.Text(), "5");
 }
 
-TEST_F(SetupsTest, UnitsAreDeployedExchangedAndWithdrawn) {
-  Command6_Click(Field, State);
+TEST_F(Setups, UnitsAreDeployedExchangedAndWithdrawn) {
+  Command6_Click(field_, state_);
   Assign(4, -1);
-  EXPECT_EQ(Host.Heard(), Lines{"Please select a unit"});
-  Assign(4, 1);
-  EXPECT_EQ(Setup.unit[4].Caption + " " + Listed(Setup.unitList), "SK,,4,2,J HI,,4,2,J;SK,,4,2,J;");
-  Assign(4, 0);
-  EXPECT_EQ(Setup.unit[4].Caption + " " + Listed(Setup.unitList), "HI,,4,2,J SK,,4,2,J;SK,,4,2,J;");
-  EXPECT_EQ(Scratch("field5"), "HI,,4,2,J");
-  Assign(4, -1);
-  EXPECT_EQ(Setup.unit[4].Caption + Listed(Setup.unitList), "SK,,4,2,J;SK,,4,2,J;HI,,4,2,J;");
-  EXPECT_EQ(Scratch("field5"), "");
-  State.NumUnits = 400;  // more unit lines than the table has rows
-  FillDeployList(Field, State);
-  EXPECT_EQ(Setup.unitList.Entries.size(), 3U);
-  State.NumUnits = 1;
-  FillDeployList(Field, State);
-  EXPECT_EQ(Listed(Setup.unitList), "HI,,4,2,J;");
-  ShowSetup_Click(Field, State);
-  EXPECT_FALSE(Setup.setupFramePanel.Visible);
-  Command3_Click(State);
-  EXPECT_EQ(State.EditFrame.Front, 5);
+  EXPECT_EQ(host_.Heard(), Lines{"Please select a unit"});
+  EXPECT_EQ(Assign(8, 1), "SK,,4,2,J HI,,4,2,J;SK,,4,2,J;");
+  EXPECT_EQ(Assign(8, 0), "HI,,4,2,J SK,,4,2,J;SK,,4,2,J;");
+  EXPECT_EQ(Scratch(), Section("1", "New setup", "", "HI,,4,2,J"));
+  EXPECT_EQ(Assign(8, -1), " SK,,4,2,J;SK,,4,2,J;HI,,4,2,J;");
+  EXPECT_EQ(Scratch(), Section("1", "New setup"));
+  state_.BaseUnits[200].UnitType = "EL";
+  state_.NumUnits = 400;  // more unit lines than the table has rows
+  FillDeployList(field_, state_);
+  EXPECT_EQ(Listed(panel_.unitList), "HI,,4,2,J;SK,,4,2,J;SK,,4,2,J;EL,,,,;");
+  state_.NumUnits = 1;
+  FillDeployList(field_, state_);
+  EXPECT_EQ(Listed(panel_.unitList), "HI,,4,2,J;");
 }
 
-TEST_F(SetupsTest, TwentySetupsTravelBetweenArmyAndScratchFile) {
-  std::string army = "[ARMY]\r\nname=x\r\n[SETUP 2]\r\ndescription=two\r\nfield9=HI,,4,2,J\r\n";
-  army += "[SETUP 3]\r\nfield1=without a description\r\n[SETUP 20]\r\ndescription=a\\nb\r\n";
-  army += "[SETUP 21]\r\ndescription=one too many\r\n";
-  Folder.Write("x.army", army);
-  Folder.Write("working.setup", "[SETUP 1]\r\ndescription=old\r\n");
-  LoadSetupsFromArmy(Field, State, Folder / "x.army");
-  EXPECT_EQ(Listed(Setup.setupList), "2;20;");
-  std::string empty;
-  for (int k = 1; k <= 9; ++k)
-    empty += "field" + std::to_string(k) + "=\r\n";
-  const std::string scratch = "[SETUP 2]\r\ndescription=two\r\n" +
-                              empty.substr(0, empty.size() - 2) +
-                              "HI,,4,2,J\r\n[SETUP 20]\r\ndescription=a\\nb\r\n" + empty;
-  EXPECT_EQ(Folder.Read("working.setup"), scratch);
-
-  Folder.Write("y.army", "[ARMY]\r\nname=y\r\n");
-  CopySetupsToArmy(State, Folder / "y.army");
-  EXPECT_EQ(Folder.Read("y.army"), "[ARMY]\r\nname=y\r\n" + scratch);
-  Folder.Write("none.army", "[ARMY]\r\n");
-  LoadSetupsFromArmy(Field, State, Folder / "none.army");
-  EXPECT_FALSE(Folder.Has("working.setup"));
+TEST_F(Setups, TwentyTravelBetweenArmyAndScratchFile) {
+  const std::string scratch = Section("2", "two", "", "HI,,4,2,J") + Section("20", "a\\nb");
+  const std::string army = "[ARMY]\r\nname=x\r\n";
+  folder_.Write(
+      "x.army",
+      army +
+          "[SETUP 20]\r\ndescription=a\\nb\r\n[SETUP 2]\r\nfield9=HI,,4,2,J"
+          "\r\ndescription=two\r\n[SETUP 3]\r\nfield1=x\r\n[SETUP 21]\r\ndescription=d\r\n");
+  folder_.Write("working.setup", Section("1", "old"));
+  LoadSetupsFromArmy(field_, state_, folder_ / "x.army");
+  EXPECT_EQ(Listed(panel_.setupList), "2;20;");
+  EXPECT_EQ(Scratch(), scratch);
+  folder_.Write("y.army", army);
+  folder_.Write("working.setup", scratch + Section("3", "") + Section("21", "d"));
+  CopySetupsToArmy(state_, folder_ / "y.army");
+  EXPECT_EQ(folder_.Read("y.army"), army + scratch);
+  LoadSetupsFromArmy(field_, state_, folder_ / "none.army");
+  EXPECT_EQ(Listed(panel_.setupList) + Scratch(), "<missing>");
 }
 
 }  // namespace

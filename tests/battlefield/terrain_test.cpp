@@ -13,84 +13,88 @@
 namespace tarnwick {
 namespace {
 
-TEST(Terrain, AllNineAreasAreSaved) {
-  const TempFolder folder;
-  ProfileFiles files;
-  Battlefield field;
-  ClearAreas(field);
-  field.AreaTerrain[0] = "SLOPE";
-  field.AreaTerrain[8] = "CLIFF";
-  folder.Write("a.army", "[ARMY]\r\nname=Tyre\r\n[terrain]\r\narea2=WOOD\r\n\r\n[SETUP 1]\r\n");
-  SaveTerrain(field, files, folder / "a.army");
-  const std::string clearAreas =
-      "area3=CLEAR\r\narea4=CLEAR\r\narea5=CLEAR\r\narea6=CLEAR\r\narea7=CLEAR\r\narea8=CLEAR\r\n"
-      "area9=CLIFF\r\n";
-  EXPECT_EQ(folder.Read("a.army"),
-            "[ARMY]\r\nname=Tyre\r\n[terrain]\r\narea2=CLEAR\r\narea1=SLOPE\r\n" + clearAreas +
-                "\r\n[SETUP 1]\r\n");
-  SaveTerrain(field, files, folder / "b.army");
-  EXPECT_EQ(folder.Read("b.army"), "[TERRAIN]\r\narea1=SLOPE\r\narea2=CLEAR\r\n" + clearAreas);
-  EXPECT_NO_THROW(SaveTerrain(field, files, folder / "none/c.army"));
-}
+class Terrain : public testing::Test {
+ protected:
+  Terrain() { InitTerrainKinds(field_); }
 
-/// Points as "army/command", and what lies on the first two areas as "name picture".
-struct TerrainGame : testing::Test {
-  TerrainGame() {
-    InitTerrainKinds(Field);
-    State.PointsLeft = 150;
-    State.CommandPts = 20;
-  }
-
+  /// Drops a piece on an area; the points left come back.
   std::string Drop(int kind, int area) {
-    DropTerrain(Field, State, Host, kind, area);
+    DropTerrain(field_, state_, host_, kind, area);
     return Points();
   }
   std::string Points() const {
-    return NumberText(State.PointsLeft) + "/" + NumberText(State.CommandPts);
+    return NumberText(state_.PointsLeft) + "/" + NumberText(state_.CommandPts);
+  }
+  /// What lies on an area, and how it is shown.
+  std::string Area(int area) const {
+    const PictureBox& box = field_.Terrain.Area[area];
+    return field_.AreaTerrain[area] + " " + box.Tag + std::to_string(box.Picture);
   }
 
-  TempFolder Folder;
-  ArmyState State{Folder.Path()};
-  Battlefield Field;
-  FakeHost Host;
+  TempFolder folder_;
+  ArmyState state_{folder_.Path()};
+  Battlefield field_;
+  FakeHost host_;
 };
 
-TEST_F(TerrainGame, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
+TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
+  const char* const prices[] = {"0/0", "-30/-5", "-60/-10", "-20/0", "-50/-15", "-150/0"};
+  const char* const names[] = {"CLEAR", "SLOPE", "CAMP", "WOOD", "MOUNTAIN", "CLIFF"};
+  for (int kind = 0; kind <= 5; ++kind) {
+    field_.AreaTerrain[0] = names[kind];
+    SaveTerrain(field_, state_.Files, folder_ / "x.army");
+    state_.PointsLeft = state_.CommandPts = 0;
+    LoadTerrain(field_, state_, folder_ / "x.army");  // charges even below zero
+    EXPECT_EQ(Points(), prices[kind]) << names[kind];
+  }
+  state_.PointsLeft = 150;
+  state_.CommandPts = 20;
   EXPECT_EQ(Drop(1, 0), "120/15");
   EXPECT_EQ(Drop(5, 0), "120/15");  // the exchange would cost 120
-  EXPECT_EQ(Host.Heard(), Lines{"Not enough points"});
-  EXPECT_EQ(Field.AreaTerrain[0] + Field.Terrain.Area[0].Tag, "SLOPE1");
+  EXPECT_EQ(host_.Heard(), Lines{"Not enough points"});
+  EXPECT_EQ(Area(0), "SLOPE 11");
   EXPECT_EQ(Drop(4, 0), "100/5");
-  EXPECT_EQ(Field.Terrain.ArmyPts.Caption + State.Units.TotalCost.Caption,
-            "100Points left: 100 of 0");
+  EXPECT_EQ(field_.Terrain.ArmyPts.Caption + field_.Terrain.CommandPts.Caption, "1005");
+  EXPECT_EQ(state_.Units.TotalCost.Caption, "Points left: 100 of 0");
   EXPECT_EQ(Drop(4, 0), "100/5");  // 15 command points are not free
-  EXPECT_EQ(Host.Heard(), Lines{"Not enough points"});
+  EXPECT_EQ(host_.Heard(), Lines{"Not enough points"});
   EXPECT_EQ(Drop(0, 0), "150/20");
   EXPECT_EQ(Drop(5, 8), "0/20");  // just enough
-  EXPECT_EQ(Field.AreaTerrain[8], "CLIFF");
-  EXPECT_EQ(Field.Terrain.Area[8].Picture, 5);
+  EXPECT_EQ(Area(8), "CLIFF 55");
+  state_.PointsLeft = -1;
+  EXPECT_EQ(Drop(0, 8), "-1/20");  // nothing is taken off by an army in debt
+  EXPECT_EQ(host_.Heard(), Lines{"Not enough points"});
 }
 
-TEST_F(TerrainGame, AClearedAreaKeepsItsPicture) {
+TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
+  state_.PointsLeft = 99;
   Drop(3, 2);
-  ClearAreas(Field);
-  ShowTerrainBtn_Click(Field, State);
-  EXPECT_EQ(Field.Terrain.Area[2].Tag, "0");
-  EXPECT_EQ(Field.Terrain.Area[2].Picture, 3);
-  EXPECT_EQ(State.EditFrame.Front, 3);
-  Field.AreaTerrain[2] = "CAMP";
-  ShowTerrain(Field, State);
-  EXPECT_EQ(Field.Terrain.Area[2].Tag + NumberText(Int16(Field.Terrain.Area[2].Picture)), "22");
+  ClearAreas(field_);
+  EXPECT_EQ(Points() + Area(2), "79/0CLEAR 33");
+  ShowTerrainBtn_Click(field_, state_);
+  EXPECT_EQ(Area(2), "CLEAR 03");
+  EXPECT_EQ(state_.EditFrame.Front, 3);
+  field_.AreaTerrain[2] = "CAMP";
+  ShowTerrain(field_, state_);
+  EXPECT_EQ(Area(2), "CAMP 22");
 }
 
-TEST_F(TerrainGame, LoadingChargesEvenBelowZero) {
-  Folder.Write("a.army", "[TERRAIN]\narea1=CLIFF\narea2=MOUNTAIN\narea4=MOUNTAIN\narea9=\n");
-  LoadTerrain(Field, State, Folder / "a.army");
-  EXPECT_EQ(Points(), "-100/-10");
-  EXPECT_EQ(Field.AreaTerrain[3] + Field.AreaTerrain[8], "MOUNTAINCLEAR");
-  Folder.Write("b.army", "[TERRAIN]\narea1=WOOD\narea2=wood\narea3=WOOD\n");
-  EXPECT_THROW(LoadTerrain(Field, State, Folder / "b.army"), SubscriptError);
-  EXPECT_EQ(Field.AreaTerrain[1] + Points(), "wood-120/-10");
+TEST_F(Terrain, FilesHoldAllNineAreas) {
+  field_.AreaTerrain[0] = "SLOPE";
+  folder_.Write("x.army", "[ARMY]\r\nname=x\r\n[terrain]\r\narea2=WOOD\r\n\r\n[SETUP 1]\r\n");
+  SaveTerrain(field_, state_.Files, folder_ / "x.army");
+  EXPECT_EQ(folder_.Read("x.army"),
+            "[ARMY]\r\nname=x\r\n[terrain]\r\narea2=CLEAR\r\narea1=SLOPE\r\narea3=CLEAR\r\n"
+            "area4=CLEAR\r\narea5=CLEAR\r\narea6=CLEAR\r\narea7=CLEAR\r\narea8=CLEAR\r\n"
+            "area9=CLEAR\r\n\r\n[SETUP 1]\r\n");
+  EXPECT_NO_THROW(SaveTerrain(field_, state_.Files, folder_ / "none/x.army"));
+
+  folder_.Write("x.army", "[TERRAIN]\narea1=\narea9=CLIFF\n");
+  LoadTerrain(field_, state_, folder_ / "x.army");
+  EXPECT_EQ(field_.AreaTerrain[0] + field_.AreaTerrain[8] + Points(), "CLEARCLIFF-150/0");
+  folder_.Write("x.army", "[TERRAIN]\narea1=WOOD\narea2=wood\narea3=WOOD\n");
+  EXPECT_THROW(LoadTerrain(field_, state_, folder_ / "x.army"), SubscriptError);
+  EXPECT_EQ(field_.AreaTerrain[1] + field_.AreaTerrain[2] + Points(), "woodCLEAR-170/0");
 }
 
 }  // namespace

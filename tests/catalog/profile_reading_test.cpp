@@ -20,9 +20,8 @@ class ProfileReading : public testing::Test {
     folder_.Write("file.dat", bytes);
     const ProfileFiles files;
     Lines values;
-    for (const auto& key : keys) {
+    for (const auto& key : keys)
       values.push_back(files.ReadIniString(section, key, folder_ / "file.dat"));
-    }
     return values;
   }
 
@@ -36,9 +35,8 @@ TEST_F(ProfileReading, BlanksAroundNamesAndValuesDoNotCount) {
   EXPECT_EQ(Read(file, "  my s ", {"a", "b", "c", "d"}), (Lines{"x  y", "\xA0v\xA0", "", ""}));
   // Of what is asked for, only spaces don't count.
   EXPECT_EQ(Read(file, "my s", {"\ta", "a\t"}), (Lines{"", ""}));
-  for (const char* section : {"my  s", "mys", "\tmy s"}) {
+  for (const char* section : {"my  s", "mys", "\tmy s"})
     EXPECT_EQ(Read(file, section, {"a"}), Lines{""}) << section;
-  }
 }
 
 TEST_F(ProfileReading, TheFirstEqualsSplitsAndTheFirstKeyCounts) {
@@ -91,15 +89,12 @@ TEST_F(ProfileReading, OnePairOfOuterQuotesGoes) {
 }
 
 TEST_F(ProfileReading, TheCutTo254BytesComesLast) {
-  for (const std::size_t size : {253U, 254U, 255U, 256U, 300U}) {
-    const std::string value(size, 'x');
-    const std::string cut = value.substr(0, 254);
-    const std::string plain = "[s]\nk=" + value + "\n";
-    const std::string quoted = "[s]\nk=\"" + value + "\"\n";
-    EXPECT_EQ(Read(plain, "s", {"k"}), Lines{cut});
-    EXPECT_EQ(Read(quoted, "s", {"k"}), Lines{cut});
-  }
   const std::string long253(253, 'x');
+  for (const std::string end : {"", "x", "xx", "xxx"}) {
+    const Lines cut = {(long253 + end).substr(0, 254)};
+    EXPECT_EQ(Read("[s]\nk=" + long253 + end + "\n", "s", {"k"}), cut);
+    EXPECT_EQ(Read("[s]\nk=\"" + long253 + end + "\"\n", "s", {"k"}), cut);
+  }
   EXPECT_EQ(Read("[s]\nk=  " + long253 + "  y\n", "s", {"k"}), Lines{long253 + " "});
 }
 
@@ -107,11 +102,10 @@ TEST_F(ProfileReading, WhatIsMissingIsEmpty) {
   const ProfileFiles files;
   folder_.Write("folder.dat/file", "");
   folder_.Write("file.dat", "[s]\nk=12 men\nbig=70000\n");
-  for (const char* name : {"none.dat", "none/none.dat", "folder.dat"}) {
+  for (const char* name : {"none/none.dat", "folder.dat"}) {
     EXPECT_EQ(files.ReadIniString("s", "k", folder_ / name), "") << name;
     EXPECT_FALSE(FileExists(folder_ / name)) << name;
   }
-  EXPECT_TRUE(FileExists(folder_ / "file.dat"));
   EXPECT_EQ(files.ReadIniNumber("s", "j", folder_ / "file.dat"), 0);
   EXPECT_EQ(files.ReadIniNumber("s", "k", folder_ / "file.dat"), 12);
   EXPECT_THROW(files.ReadIniNumber("s", "big", folder_ / "file.dat"), OverflowError);

@@ -14,20 +14,11 @@ namespace {
 
 class LeaderChoice : public testing::Test {
  protected:
-  /// Clicks an option, which the window has ticked by then; what was said comes back.
-  std::string Click(int index) {
-    TickOption(state_.Command.LeaderName, index);
-    LeaderName_Click(state_, sample_.Host, index);
-    const Lines said = sample_.Host.Heard();
-    return said.empty() ? "" : said.front();
-  }
-
   /// The chosen leader, the ticked option (−1 is none) and the command points left.
   std::string Choice() const {
     int ticked = -1;
-    for (int i = 0; i <= 6; ++i) {
+    for (int i = 0; i <= 6; ++i)
       if (state_.Command.LeaderName[i].Value) ticked = i;
-    }
     return NumberText(state_.SelectedLeader) + " " + std::to_string(ticked) + " " +
            NumberText(state_.CommandPts);
   }
@@ -39,82 +30,69 @@ class LeaderChoice : public testing::Test {
 };
 
 TEST_F(LeaderChoice, IsPaidAndChangedForTheDifference) {
-  EXPECT_EQ(Click(2), "Insufficient points left");
-  EXPECT_EQ(Choice(), "-1 -1 160");
-  EXPECT_EQ(Click(0), "");
-  EXPECT_EQ(Choice(), "0 0 10");
-  EXPECT_EQ(state_.Command.LeaderFrame.Caption, " Leaders (pts left: 10)");
-  EXPECT_EQ(Click(1), "");
-  EXPECT_EQ(Choice(), "1 1 120");
-  EXPECT_EQ(Click(1), "");
-  EXPECT_EQ(Choice(), "1 1 120");
-  state_.CommandPts = 109;
-  EXPECT_EQ(Click(0), "Insufficient points left");
-  EXPECT_EQ(Choice(), "1 1 109");
-  state_.CommandPts = 110;
-  EXPECT_EQ(Click(0), "");
-  EXPECT_EQ(Choice(), "0 0 0");
-  state_.CommandPts = -50;  // a loaded army may have overspent; a refund is still taken
-  EXPECT_EQ(Click(1), "");
-  EXPECT_EQ(Choice(), "1 1 60");
+  const struct {
+    int PointsLeft, Clicked;
+    const char* Choice;
+  } clicks[] = {
+      {160, 2, "-1 -1 160"}, {160, 0, "0 0 10"}, {10, 1, "1 1 120"}, {120, 1, "1 1 120"},
+      {109, 0, "1 1 109"},   {110, 0, "0 0 0"},  {-50, 1, "1 1 60"}};  // a loaded army may have
+                                                                       // overspent; a refund is
+                                                                       // still taken
+  for (const auto& click : clicks) {
+    state_.CommandPts = click.PointsLeft;
+    TickOption(state_.Command.LeaderName, click.Clicked);  // as the window has done by then
+    LeaderName_Click(state_, sample_.Host, click.Clicked);
+    EXPECT_EQ(Choice(), click.Choice);
+  }
+  const std::string refusal = "Insufficient points left";
+  EXPECT_EQ(sample_.Host.Heard(), (Lines{refusal, refusal}));
+  EXPECT_EQ(state_.Command.LeaderFrame.Caption, " Leaders (pts left: 60)");
 }
 
-class LeaderDialog : public LeaderChoice {
- protected:
-  /// Selects an entry, −1 for none, of each list and shows the cost.
-  std::string Cost(int initiative, int command) {
-    form_.InitiativeBox.ListIndex = initiative;
-    form_.CommandBox.ListIndex = command;
-    UpdateLeaderCost(form_);
-    return form_.leaderCost.Caption;
+TEST_F(LeaderChoice, TheDialogDefinesLeadersThatNobodyHasChosenYet) {
+  LeaderMgmtForm form;
+  const auto cost = [&form](int initiative, int command) {  // entries of the lists, -1 for none
+    form.InitiativeBox.ListIndex = initiative;
+    form.CommandBox.ListIndex = command;
+    UpdateLeaderCost(form);
+    return form.leaderCost.Caption;
+  };
+  std::string costs;
+  for (int i = 0; i < 8; ++i)
+    costs += cost(i % 4, i / 4) + " ";
+  EXPECT_EQ(costs, "40 70 100 120 0 0 0 150 ");
+  EXPECT_EQ(cost(-1, 0) + cost(0, -1), "150150");  // until both lists have a selection
+  EXPECT_EQ(LeaderCost(7, 0) + LeaderCost(8, 1) + LeaderCost(3, 1), 150);
+  for (const int initiative : {-1, 0, 2}) {
+    cost(initiative, 1);
+    EXPECT_TRUE(CommandBox_Validate(form, sample_.Host)) << initiative;
+    EXPECT_EQ(sample_.Host.Heard(),
+              Lines{"Only leaders with initiative = 7 can have 2 command points"});
   }
-
-  LeaderMgmtForm form_;
-};
-
-TEST_F(LeaderDialog, ShowsTheCostAndAsksForInitiative7) {
-  EXPECT_EQ(Cost(3, 1), "150");
-  EXPECT_EQ(Cost(-1, 0), "150");  // the cost stays until both lists have a selection
-  EXPECT_EQ(Cost(0, -1), "150");
-  EXPECT_EQ(Cost(0, 0), "40");
-  EXPECT_EQ(Cost(2, 1), "0");
-  const Lines refusal = {"Only leaders with initiative = 7 can have 2 command points"};
-  for (const int initiative : {-1, 0, 1, 2}) {
-    Cost(initiative, 1);
-    EXPECT_TRUE(CommandBox_Validate(form_, sample_.Host)) << initiative;
-    EXPECT_EQ(sample_.Host.Heard(), refusal);
-    form_.CommandBox.ListIndex = 0;
-    EXPECT_FALSE(CommandBox_Validate(form_, sample_.Host)) << initiative;
-  }
-  EXPECT_EQ(form_.leaderCost.Caption, "100");
-  form_.InitiativeBox.ListIndex = 3;
-  form_.CommandBox.ListIndex = 1;
-  EXPECT_FALSE(CommandBox_Validate(form_, sample_.Host));
-  EXPECT_EQ(form_.leaderCost.Caption, "150");
-  EXPECT_EQ(sample_.Host.Heard(), Lines{});
-}
-
-TEST_F(LeaderDialog, DefinesLeadersThatNobodyHasChosenYet) {
-  Cost(3, 1);
-  EXPECT_FALSE(DefineLeader(state_, sample_.Host, form_));
+  form.InitiativeBox.ListIndex = 3;
+  EXPECT_FALSE(CommandBox_Validate(form, sample_.Host));
+  EXPECT_EQ(form.leaderCost.Caption, "150");
+  EXPECT_FALSE(DefineLeader(state_, sample_.Host, form));
   EXPECT_EQ(sample_.Host.Heard(), Lines{"Please insert the leader's name"});
-  EXPECT_EQ(state_.LeaderCount, 3);
 
-  form_.LeaderName.Text = " Cato the Elder";
-  Cost(2, 1);
-  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form_));
-  EXPECT_EQ(state_.LeaderCount, 4);
+  form.LeaderName.Text = " Cato the Elder";
+  cost(2, 1);
+  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
   EXPECT_EQ(state_.Command.LeaderName[3].Caption, " Cato the Elder 0 [ 6 / 2 ] ");
   EXPECT_TRUE(state_.Command.LeaderName[3].Visible);
   EXPECT_EQ(Choice(), "-1 -1 160");
-  EXPECT_EQ(Click(3), "");
-  EXPECT_EQ(Choice(), "3 3 160");
-
-  // Without a selection the cost is what the dialog shows.
-  Cost(0, 0);
-  Cost(0, -1);
-  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form_));
+  cost(0, 0);
+  cost(0, -1);  // without a selection the cost is what the dialog shows
+  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
   EXPECT_EQ(state_.Command.LeaderName[4].Caption, " Cato the Elder 40 [ 4 / 0 ] ");
+
+  // The eighth leader has no button, the twelfth no row.
+  for (int i = 5; i < 7; ++i)
+    DefineLeader(state_, sample_.Host, form);
+  for (int i = 7; i < 12; ++i)
+    EXPECT_THROW(DefineLeader(state_, sample_.Host, form), SubscriptError);
+  EXPECT_EQ(state_.Leaders[10].Initiative, "4");
+  EXPECT_EQ(state_.LeaderCount, 12);
 }
 
 }  // namespace

@@ -15,8 +15,8 @@
 
 namespace tarnwick {
 
-/// A user made of lists: what was said is kept, questions take their answers from a queue, and
-/// every dialog runs the function that the test put there. What no test expects is a failure.
+/// A user made of lists: what was said is kept, questions take their answers from a queue, dialogs
+/// run the function that the test put there. What no test expects is a failure.
 class FakeHost : public Host {
  public:
   std::vector<std::string> Said;  ///< messages and questions in their order
