@@ -111,12 +111,13 @@ void ShowPeriod(ArmyHeader& header) {
   if (header.ArmyPeriod.empty()) return;
   const Int16 from = StrictInt16(GetField(header.ArmyPeriod, 1));
   const Int16 to = StrictInt16(GetField(header.ArmyPeriod, 2));
-  const auto show = [](Int16 year, TextBox& box, Table<OptionButton, 0, 1>& era) {
-    box.Text = NumberText(year >= 0 ? year : -year);
-    TickOption(era, year >= 0 ? ac : bc);
-  };
-  show(from, header.FromData, header.FromACBC);
-  show(to, header.ToData, header.toACBC);
+  const auto yearText = [](Int16 year) { return NumberText(year >= 0 ? year : -year); };
+  const std::string fromText = yearText(from);
+  const std::string toText = yearText(to);
+  header.FromData.Text = fromText;
+  TickOption(header.FromACBC, from >= 0 ? ac : bc);
+  header.ToData.Text = toText;
+  TickOption(header.toACBC, to >= 0 ? ac : bc);
 }
 
 void TakeArmyType(ArmyHeader& header, std::string_view code) {

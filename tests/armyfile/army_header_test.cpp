@@ -89,7 +89,7 @@ TEST_F(Header, APeriodIsShownInItsBoxes) {
     header_.ArmyPeriod = period;
     EXPECT_THROW(ShowPeriod(header_), TypeMismatchError) << period;
   }
-  for (const char* period : {"40000,1", "1,40000", "-32768,1"}) {
+  for (const char* period : {"40000,1", "1,40000", "-32768,1", "1,-32768"}) {
     header_.ArmyPeriod = period;
     EXPECT_THROW(ShowPeriod(header_), OverflowError) << period;
     EXPECT_EQ(Shown(), "-2,7") << period;  // still
