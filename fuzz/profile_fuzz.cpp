@@ -25,7 +25,7 @@ void Require(bool condition) {
 
 /// A name that finds itself again once it stands in a file.
 bool IsPlainName(std::string_view name) {
-  return !name.empty() && name.find_first_of("=;[]\r\n\t\v\f \"'") == std::string_view::npos;
+  return name.find_first_of("=;[]\r\n\t\v\f \"'") == std::string_view::npos;
 }
 
 /// What of `before` is not in `after` any more, without the line end behind it.
@@ -49,8 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   ProfileText before(rest);
   before.Find(section, key);
-  if (!IsPlainName(section) || !IsPlainName(key) || !(IsPlainName(value) || value.empty()))
-    return 0;
+  if (!IsPlainName(section) || !IsPlainName(key) || !IsPlainName(value)) return 0;
 
   const std::string written = before.With(section, key, value);
   ProfileText after{std::string_view(written)};

@@ -109,10 +109,8 @@ void ProfileText::FindSections() {
 }
 
 std::optional<std::string_view> ProfileText::Find(std::string_view section, std::string_view key) {
-  section = Trim(section);
-  key = Trim(key);
-  const auto found = sections_.find(section);
-  if (section.empty() || key.empty() || found == sections_.end()) return std::nullopt;
+  const auto found = sections_.find(Trim(section));
+  if (found == sections_.end()) return std::nullopt;
   auto& [lines, values] = found->second;
   if (!values) {
     values.emplace();
@@ -121,7 +119,7 @@ std::optional<std::string_view> ProfileText::Find(std::string_view section, std:
         values->try_emplace(line->Name, line->Value);
     }
   }
-  const auto value = values->find(key);
+  const auto value = values->find(Trim(key));
   if (value == values->end()) return std::nullopt;
   return value->second;
 }

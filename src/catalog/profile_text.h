@@ -26,7 +26,8 @@ class ProfileText {
   std::string_view Bytes() const { return text_; }
 
   /// The value without the blanks and the one pair of quotes around it, however long; nothing
-  /// when there is no such section or key. Spaces around the names don't count.
+  /// when there is no such section or key. Spaces around the names don't count; "" is the name of
+  /// what has none, like "[]".
   std::optional<std::string_view> Find(std::string_view section, std::string_view key);
 
   /// A line of the form key=value. A doubled one can't be found: an earlier line, or an earlier

@@ -43,7 +43,7 @@ TEST_F(ProfileReading, TheFirstEqualsSplitsAndTheFirstKeyCounts) {
   const char* file =
       "[s]\n=0\na=1=2\nb==2\nc\nc=3\n;d=4\n \t;d=5\nd=6 ;7\n#e=8\nf;=9\ng=\nG=10\nH=11\nh=12\nj\n";
   EXPECT_EQ(Read(file, "s", {"a", "b", "c", "d", ";d", "#e", "f;", "g", "h", "j", ""}),
-            (Lines{"1=2", "=2", "3", "6 ;7", "", "8", "9", "", "11", "", ""}));
+            (Lines{"1=2", "=2", "3", "6 ;7", "", "8", "9", "", "11", "", "0"}));
 }
 
 TEST_F(ProfileReading, TheFirstSectionOfANameCounts) {
@@ -58,8 +58,7 @@ TEST_F(ProfileReading, TheFirstSectionOfANameCounts) {
         << header;
   }
   EXPECT_EQ(Read("[a[b]\nk=1\n", "a[b", {"k"}), Lines{"1"});
-  // What has no name can't be reached.
-  EXPECT_EQ(Read("k=0\n[]\nk=1\n", "", {"k"}), Lines{""});
+  EXPECT_EQ(Read("k=0\n[]\nk=1\n", " ", {"k"}), Lines{"1"});  // no name is a name, too
   // A byte-order mark spoils the first line.
   EXPECT_EQ(Read("\xEF\xBB\xBF[s]\nk=1\n[s]\nk=2\n", "s", {"k"}), Lines{"2"});
   EXPECT_EQ(Read("\xEF\xBB\xBF\n[s]\nk=1\n", "s", {"k"}), Lines{"1"});
