@@ -56,6 +56,7 @@ void FillArmyList(const ArmyState& state, ArmyListForm& form) {
   for (; file != fs::directory_iterator(); file.increment(error)) {
     if (!file->path().native().ends_with(ending) || !FileExists(file->path())) continue;
     std::string name = AnsiFromPath(file->path().filename());
+    if (name.find('\\') != std::string::npos) continue;  // would name a file in another folder
     name.resize(name.size() - ending.size());
     std::string folded = LowerCase(name);
     names.emplace_back(std::move(folded), std::move(name));

@@ -109,7 +109,8 @@ std::string Utf8FromAnsi(std::string_view ansi) {
 }
 
 std::filesystem::path PathIn(const std::filesystem::path& folder, std::string_view ansiName) {
-  const std::string utf8 = Utf8FromAnsi(ansiName);
+  std::string utf8 = Utf8FromAnsi(ansiName);
+  std::replace(utf8.begin(), utf8.end(), '\\', '/');
   const std::filesystem::path name(std::u8string(utf8.begin(), utf8.end()));
   return folder / name.relative_path();
 }

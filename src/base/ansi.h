@@ -14,7 +14,8 @@ namespace tarnwick {
 std::string AnsiFromUtf8(std::string_view utf8);
 std::string Utf8FromAnsi(std::string_view ansi);
 
-/// The file `ansiName` below `folder`, even when the name begins like an absolute path.
+/// The file `ansiName` below `folder`, even when the name begins like an absolute path. Folders are
+/// separated by "/" or "\".
 std::filesystem::path PathIn(const std::filesystem::path& folder, std::string_view ansiName);
 
 /// A path as messages show it.

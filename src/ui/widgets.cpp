@@ -21,7 +21,7 @@ namespace {
 /// What a line of a file gives back at the most, in bytes.
 constexpr int longestValue = 254;
 
-/// A file system's names have 255 bytes; ".army.new" takes its own.
+/// File systems take 255 bytes as a name, of which the ending needs some.
 constexpr std::size_t longestFileName = 246;
 
 class QuantityValidator : public QValidator {
@@ -44,10 +44,7 @@ class FileNameValidator : public QValidator {
   using QValidator::QValidator;
 
   State validate(QString& text, int& /*cursor*/) const override {
-    // As the state holds it: a character that the code page lacks becomes one of these.
-    const std::string name = FromQt(text);
-    const bool plain = name.find_first_of("/\\:*?\"<>|") == std::string::npos;
-    return plain && Utf8FromAnsi(name).size() <= longestFileName ? Acceptable : Invalid;
+    return Utf8FromAnsi(FromQt(text)).size() <= longestFileName ? Acceptable : Invalid;
   }
 };
 

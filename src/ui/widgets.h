@@ -33,7 +33,7 @@ QLineEdit* NewTextBox(const QString& name, QWidget* parent);
 /// A box for a quantity; it takes no keystroke that makes the number leave 16 bits.
 QLineEdit* NewQuantityBox(const QString& name, QWidget* parent);
 
-/// A box for the name of a file in the program folder.
+/// A box for the name of a file, in the program folder or one below it.
 QLineEdit* NewFileNameBox(const QString& name, QWidget* parent);
 
 /// A box of several lines that stops at what one line of a file can hold, when each of its line

@@ -42,7 +42,7 @@ class ArmyBrowser : public testing::Test {
 
 TEST_F(ArmyBrowser, ListsAndDescribesArmyFiles) {
   for (const char* name : {"Zama.army", "alesia.army", "\xC3\x89lan.army", "b.army", "c.ARMY",
-                           "d.army.new", "brakka/troll.army", "folder.army/x"}) {
+                           "d.army.new", "brakka\\e.army", "brakka/troll.army", "folder.army/x"}) {
     folder_.Write(name,
                   "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Ana\ninitiative=7\ncommand=2\n[ARMY]\n"
                   "name=The B\nbase=Host\nnumunits=12\nroute=30 %\npoints=90\nTQ=\nrally=2\n");

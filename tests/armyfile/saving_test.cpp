@@ -92,6 +92,9 @@ TEST_F(Saving, AsksBeforeItReplacesAFile) {
   SaveArmy(work_, sample_.Host);
   EXPECT_EQ(sample_.Host.Heard(), (Lines{question, question, "Army Saved"}));
   EXPECT_EQ(Saved(), plainArmy);
+  army_.Management.ArmyFileName.Text = "brakka\\Tyre";
+  EXPECT_EQ(sample_.Save(), "Army Saved");
+  EXPECT_EQ(sample_.Folder.Read("brakka/Tyre.army"), plainArmy);
 
   work_.Header.FOW.Value = work_.Header.Ferocity.Value = true;
   army_.Management.ArmyFileName.Text = "";
@@ -122,9 +125,12 @@ TEST_F(Saving, WhatCanNotBeWrittenLeavesTheOldFile) {
   } catch (const FileError& error) {
     EXPECT_NE(std::string(error.what()).find(sample_.Folder / "Tyre.army"), std::string::npos);
   }
+  army_.Management.ArmyFileName.Text = "none/Tyre";
+  EXPECT_THROW(sample_.Save(), FileError);
   army_.SelectedLeader = -1;
   EXPECT_EQ(sample_.Save(), "Please select a Leader");
   EXPECT_EQ(Saved(), "old");
+  EXPECT_FALSE(sample_.Folder.Has("none"));
 }
 
 TEST_F(Saving, AnErrorOnTheWayKeepsTheLinesWrittenSoFar) {

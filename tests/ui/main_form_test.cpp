@@ -146,10 +146,10 @@ TEST_F(WindowTest, TextBoxesTakeWhatAFileCanHold) {
   Hands.Enter("ArmyName", "");
   Hands.Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Work.Army.Management.ArmyName.Text, "two lines");
-  Hands.Enter("ArmyFileName", "a/b\\c:d.e");
-  EXPECT_EQ(Text("ArmyFileName"), "abcd.e");
-  Hands.Enter("ArmyFileName", QString::fromUtf8("aΩ/b"));
-  EXPECT_FALSE(Text("ArmyFileName").contains('/'));
+  Hands.Enter("ArmyFileName", "a/b\\c:d*?\"<>|.e");
+  EXPECT_EQ(Text("ArmyFileName"), "a/b\\c:d*?\"<>|.e");
+  Hands.Enter("ArmyFileName", QString(130, QChar(0xE9)));  // two bytes each
+  EXPECT_EQ(Text("ArmyFileName").size(), 123);
 
   Hands.Click("ShowDetailBtn");
   Hands.Enter("ArmyDesc", QString::fromUtf8("aΩb"));
