@@ -8,25 +8,26 @@
 #include "base/ansi.h"
 #include "base/errors.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "battlefield/setups.h"
 #include "battlefield/terrain.h"
-#include "catalog/output_file.h"
+#include "catalog/pending_files.h"
 #include "rules/unit_points.h"
 #include "rules/verification.h"
 
 namespace tarnwick {
 namespace {
 
-/// Writes the lines of an army file.
+/// Writes the lines of an army file to `text`.
 class ArmyWriter {
  public:
-  ArmyWriter(const WorkingArmy& work, OutputFile& file)
-      : army_(work.Army), header_(work.Header), file_(file) {}
+  ArmyWriter(const WorkingArmy& work, std::string& text)
+      : army_(work.Army), header_(work.Header), text_(text) {}
 
   void Write(const std::string& today) {
     WriteEditor(today);
     WriteLeader();
-    file_.WriteLine("[ARMY]");
+    WriteLine("[ARMY]");
     WriteHeader();
     WriteCards();
     WriteUnits();
@@ -34,24 +35,26 @@ class ArmyWriter {
   }
 
  private:
+  void WriteLine(std::string_view line) { text_.append(line).append(CrLf); }
+
   void WriteKey(std::string_view key, std::string_view value) {
-    file_.WriteLine(std::string(key).append("=").append(value));
+    WriteLine(std::string(key).append("=").append(value));
   }
 
   void WriteEditor(const std::string& today) {
-    file_.WriteLine("[EDITOR]");
+    WriteLine("[EDITOR]");
     WriteKey("version", VersionText(army_.EditorVersion));
     WriteKey("updated", today);
-    file_.WriteLine("");
+    WriteLine("");
   }
 
   void WriteLeader() {
-    file_.WriteLine("[LEADER]");
+    WriteLine("[LEADER]");
     const LeaderRec& leader = army_.Leaders[army_.SelectedLeader];
     WriteKey("name", leader.Name);
     WriteKey("initiative", leader.Initiative);
     WriteKey("command", NumberText(leader.Command));
-    file_.WriteLine("");
+    WriteLine("");
   }
 
   void WriteHeader() {
@@ -101,21 +104,20 @@ class ArmyWriter {
 
   const ArmyState& army_;
   const ArmyHeader& header_;
-  OutputFile& file_;
+  std::string& text_;
 };
 
-void WriteArmyFile(const WorkingArmy& work, const std::filesystem::path& path,
-                   const std::string& today) {
-  OutputFile file(path);
+/// The lines of the army file. An error on the way replaces the file by the lines made so far.
+std::string ArmyText(const WorkingArmy& work, const std::string& today,
+                     const std::filesystem::path& file) {
+  std::string text;
   try {
-    ArmyWriter(work, file).Write(today);
-  } catch (const FileError&) {
-    throw;
+    ArmyWriter(work, text).Write(today);
   } catch (const RuntimeError&) {
-    file.Close();  // what was written so far is the army file
+    ReplaceFile(file, text, Durability::Lasting);
     throw;
   }
-  file.Close();
+  return text;
 }
 
 }  // namespace
@@ -130,11 +132,13 @@ void SaveArmy(WorkingArmy& work, Host& host) {
       !host.Question("Do you want to replace the existing " + name + ".army file ?")) {
     return;
   }
-  WriteArmyFile(work, path, host.Today());
+  PendingFiles files;
+  files.Write(path, ArmyText(work, host.Today(), path));
   // Terrain goes to the program folder whatever the module.
-  SaveTerrain(work.Field, army.Files, PathIn(army.ProgramFolder, fileName));
+  SaveTerrain(work.Field, files, PathIn(army.ProgramFolder, fileName));
   // Setups go with the name that the army was loaded under.
-  CopySetupsToArmy(army, PathIn(army.ProgramFolder, work.Header.ArmyFile + ".army"));
+  CopySetupsToArmy(army, files, PathIn(army.ProgramFolder, work.Header.ArmyFile + ".army"));
+  files.Replace(army.Files);
   host.Message("Army Saved");
 }
 

@@ -34,8 +34,8 @@ std::string SectionOf(Int16 number) {
 }
 
 /// The setups 1 to 20 of a file that have a description, every key as it is stored.
-std::vector<ProfileFiles::Entry> StoredSetups(const ProfileFiles& files, const fs::path& file) {
-  std::vector<ProfileFiles::Entry> entries;
+std::vector<ProfileText::Entry> StoredSetups(const ProfileFiles& files, const fs::path& file) {
+  std::vector<ProfileText::Entry> entries;
   for (Int16 n = 1; n <= mostSetups; ++n) {
     const std::string section = SectionOf(n);
     const auto add = [&](const std::string& key) {
@@ -78,9 +78,9 @@ void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const fs::path& ar
   if (!entries.empty()) state.Files.WriteIniStrings(entries, scratch);
 }
 
-void CopySetupsToArmy(ArmyState& state, const fs::path& army) {
+void CopySetupsToArmy(const ArmyState& state, PendingFiles& files, const fs::path& army) {
   const auto entries = StoredSetups(state.Files, ScratchFile(state));
-  if (!entries.empty()) state.Files.WriteIniStrings(entries, army);
+  if (!entries.empty()) files.WriteIniStrings(entries, army);
 }
 
 void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number) {
@@ -101,7 +101,7 @@ void SaveSetup(const Battlefield& field, ArmyState& state) {
   if (text.empty()) text = "<new setup>";
   if (state.SetupLoading) return;
   const std::string section = SectionOf(field.CurrentSetup);
-  std::vector<ProfileFiles::Entry> entries = {{section, "description", text}};
+  std::vector<ProfileText::Entry> entries = {{section, "description", text}};
   for (Int16 i = 0; i < places; ++i) {
     entries.push_back({section, RowKey("field", i + 1), field.Setup.unit[i].Caption});
   }

@@ -7,6 +7,7 @@
 #include "base/host.h"
 #include "base/int16.h"
 #include "battlefield/battlefield.h"
+#include "catalog/pending_files.h"
 #include "rules/army_state.h"
 
 namespace tarnwick {
@@ -18,8 +19,10 @@ namespace tarnwick {
 /// scratch file can't be deleted.
 void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const std::filesystem::path& army);
 
-/// Copies the setups that have a description into the army file `army`. A failed write is silent.
-void CopySetupsToArmy(ArmyState& state, const std::filesystem::path& army);
+/// Copies the setups that have a description into the army file `army`; without any it is left
+/// alone.
+void CopySetupsToArmy(const ArmyState& state, PendingFiles& files,
+                      const std::filesystem::path& army);
 
 /// Shows setup `number` as the scratch file has it. Nothing is written.
 void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number);

@@ -49,8 +49,8 @@ Int16 TerrainIndex(const Battlefield& field, std::string_view name) {
   throw SubscriptError();
 }
 
-void SaveTerrain(const Battlefield& field, ProfileFiles& files, const std::filesystem::path& army) {
-  std::vector<ProfileFiles::Entry> areas;
+void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::filesystem::path& army) {
+  std::vector<ProfileText::Entry> areas;
   for (Int16 n = 1; n <= 9; ++n) {
     areas.push_back({"TERRAIN", RowKey("area", n), field.AreaTerrain[n - 1]});
   }

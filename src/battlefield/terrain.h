@@ -8,7 +8,7 @@
 #include "base/host.h"
 #include "base/int16.h"
 #include "battlefield/battlefield.h"
-#include "catalog/profile_files.h"
+#include "catalog/pending_files.h"
 #include "rules/army_state.h"
 
 namespace tarnwick {
@@ -22,8 +22,8 @@ void InitTerrainKinds(Battlefield& field);
 /// The index of the kind of that name, case and all. Throws SubscriptError for another name.
 Int16 TerrainIndex(const Battlefield& field, std::string_view name);
 
-/// Writes the section TERRAIN of an army file, all nine areas. A failed write is silent.
-void SaveTerrain(const Battlefield& field, ProfileFiles& files, const std::filesystem::path& army);
+/// Writes the section TERRAIN of an army file, all nine areas.
+void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::filesystem::path& army);
 
 /// Reads the nine areas of an army file and charges their prices, even below 0. A missing area is
 /// clear; a name that is no kind throws SubscriptError after it was stored.

@@ -11,8 +11,6 @@
 
 #include "base/errors.h"
 #include "base/numbers.h"
-#include "catalog/output_file.h"
-#include "catalog/profile_text.h"
 
 namespace tarnwick {
 namespace {
@@ -97,19 +95,15 @@ Int16 ProfileFiles::WriteIniString(std::string_view section, std::string_view ke
   return WriteIniStrings({{std::string(section), std::string(key), std::string(value)}}, file);
 }
 
-Int16 ProfileFiles::WriteIniStrings(const std::vector<Entry>& entries, const fs::path& file) {
+Int16 ProfileFiles::WriteIniStrings(const std::vector<ProfileText::Entry>& entries,
+                                    const fs::path& file, Durability durability) {
   const KnownFile* known = Known(file);
   std::error_code error;
   // A file that is there but can't be read must not be replaced by one that holds this key alone.
   if (known == nullptr && fs::exists(file, error)) return 0;
-  ProfileText text = known != nullptr ? ProfileText(known->Text.Bytes()) : ProfileText();
-  for (const Entry& entry : entries) {
-    text = ProfileText(text.With(entry.Section, entry.Key, entry.Value));
-  }
+  const ProfileText none;
   try {
-    OutputFile output(file);
-    output.Write(text.Bytes());
-    output.Close();
+    ReplaceFile(file, (known != nullptr ? known->Text : none).With(entries), durability);
     return 1;
   } catch (const FileError&) {
     return 0;

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "base/int16.h"
+#include "catalog/file_replacement.h"
+#include "catalog/profile_text.h"
 
 namespace tarnwick {
 
@@ -29,20 +31,15 @@ class ProfileFiles {
   Int16 ReadIniNumber(std::string_view section, std::string_view key,
                       const std::filesystem::path& file) const;
 
-  /// A key with its new value.
-  struct Entry {
-    std::string Section;
-    std::string Key;
-    std::string Value;
-  };
-
   /// Sets a key, making section and file as needed. The file is replaced in one step. Returns
   /// non-zero when it was written; an error is no more than a 0.
   Int16 WriteIniString(std::string_view section, std::string_view key, std::string_view value,
                        const std::filesystem::path& file);
 
   /// The same for several keys; the file is replaced once, with all of them set.
-  Int16 WriteIniStrings(const std::vector<Entry>& entries, const std::filesystem::path& file);
+  Int16 WriteIniStrings(const std::vector<ProfileText::Entry>& entries,
+                        const std::filesystem::path& file,
+                        Durability durability = Durability::Scratch);
 
  private:
   struct KnownFile;

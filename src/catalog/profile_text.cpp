@@ -177,4 +177,11 @@ std::string ProfileText::With(std::string_view section, std::string_view key,
   return withLineEnd(text_.substr(0, insertAt)) + lineOf(key) + std::string(text_.substr(insertAt));
 }
 
+std::string ProfileText::With(const std::vector<Entry>& entries) const {
+  std::string text(text_);
+  for (const Entry& entry : entries)
+    text = ProfileText(text).With(entry.Section, entry.Key, entry.Value);
+  return text;
+}
+
 }  // namespace tarnwick

@@ -42,10 +42,20 @@ class ProfileText {
   /// All key lines behind the first section header.
   std::vector<KeyLine> KeyLines() const;
 
+  /// A key with its new value.
+  struct Entry {
+    std::string Section;
+    std::string Key;
+    std::string Value;
+  };
+
   /// The text with `key` set to `value`. An existing key keeps its place and spelling, a new one
   /// goes behind the last key of its section, a new section to the end. All other bytes stay;
   /// the lines written end with CR LF.
   std::string With(std::string_view section, std::string_view key, std::string_view value) const;
+
+  /// The same for several keys, one after the other.
+  std::string With(const std::vector<Entry>& entries) const;
 
  private:
   struct NameHash {

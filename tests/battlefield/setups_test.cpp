@@ -151,7 +151,9 @@ TEST_F(Setups, TwentyTravelBetweenArmyAndScratchFile) {
   EXPECT_EQ(Scratch(), scratch);
   folder_.Write("y.army", army);
   folder_.Write("working.setup", scratch + Section("3", "") + Section("21", "d"));
-  CopySetupsToArmy(state_, folder_ / "y.army");
+  PendingFiles files;
+  CopySetupsToArmy(state_, files, folder_ / "y.army");
+  files.Replace(state_.Files);
   EXPECT_EQ(folder_.Read("y.army"), army + scratch);
   LoadSetupsFromArmy(field_, state_, folder_ / "none.army");
   EXPECT_EQ(Listed(panel_.setupList) + Scratch(), "<missing>");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace tarnwick {
 
@@ -40,6 +42,15 @@ class TempFolder {
   }
 
   std::string Read(std::string_view name) const { return ReadBytes(path_ / name); }
+
+  /// The names in the folder, or in one below it, in their order.
+  std::vector<std::string> Files(std::string_view name = "") const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path_ / name))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
 
   bool Has(std::string_view name) const { return std::filesystem::exists(path_ / name); }
 

@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
+#include <QTest>
 #include <QTimer>
 
+#include "support/full_disk.h"
 #include "ui_fixture.h"
 
 namespace tarnwick {
@@ -206,8 +208,7 @@ TEST_F(WindowTest, AnArmyThatCannotBeSavedStaysWholeOnDisk) {
   Hands.Click("QuickSave");
   EXPECT_EQ(Hands.TakeMessages(), QStringList{"Army Saved"});
   const std::string saved = Folder.Read("Trebia.army");
-  // Nothing can be written where the new file would have to go.
-  std::filesystem::create_directory(Folder / "Trebia.army.new");
+  const FullDisk full;
   EXPECT_EQ(Exec([this] { Hands.Click("QuickSave"); }), 1);
   const QStringList said = Hands.TakeMessages();
   ASSERT_EQ(said.size(), 2);
