@@ -112,16 +112,15 @@ class ArmyLoader {
     const std::string tq = GetField(line, 3);
     const std::string size = GetField(line, 4);
     const std::string missile = GetField(line, 5);
-    for (Int16 r = 1; r <= army_.TotUnits; ++r) {
+    for (Int16 r = 1;; ++r) {
       const UnitRec& unit = army_.BaseUnits[r];
+      // The search ends on the row behind the last one; a full table has none.
+      if (r > army_.TotUnits) return 0;
       if (unit.UnitType == type && unit.UnitClass == unitClass && unit.TQ == tq &&
           unit.Size == size && unit.Missile == missile) {
         return r;
       }
     }
-    // The search ends on the row behind the last one; a full table has none.
-    static_cast<void>(army_.BaseUnits[army_.TotUnits + 1]);
-    return 0;
   }
 
   Int16 FindImage(const std::string& id) const {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rules/base_army_loading.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/errors.h"
@@ -21,8 +22,27 @@ Int16 ReadNumber(const ArmyState& state, std::string_view key) {
   return LenientInt16(ReadKey(state, key));
 }
 
-void LoadUnits(ArmyState& state, Host& host) {
-  for (Int16 i = 1; i <= state.TotUnits; ++i) {
+/// How many rows there are of a kind; a negative number says that there are none.
+Int16 ReadCount(const ArmyState& state, std::string_view key) {
+  return std::max(ReadNumber(state, key), Int16(0));
+}
+
+/// No row of the army before is offered, or was paid for, under the name of this one, wherever its
+/// loading ends.
+void ForgetRows(ArmyState& state) {
+  state.BaseUnits.Fill({});
+  state.TotUnits = 0;
+  state.PointsSpent = 0;
+  state.TotLimits = 0;
+  for (int j = 0; j <= 6; ++j) {
+    state.Units.TypeLimit[j].Visible = false;
+    state.Units.MinLimit[j].Visible = false;
+  }
+}
+
+void LoadUnits(ArmyState& state, Host& host, Int16 count) {
+  state.TotUnits = std::min(count, Int16(0));  // a negative number stays what it is
+  for (Int16 i = 1; i <= count; ++i) {
     const std::string row = ReadKey(state, RowKey("unit", i));
     if (row.empty()) {
       host.Message("Army unit " + NumberText(i) + " not found");
@@ -30,6 +50,7 @@ void LoadUnits(ArmyState& state, Host& host) {
       return;
     }
     state.BaseUnits[i] = ParseUnitRow(row);
+    state.TotUnits = i;
   }
 }
 
@@ -59,33 +80,11 @@ void ShowCardRow(CommandPanel& panel, Int16 j, bool named) {
   panel.SpecBuy[j].Visible = true;
 }
 
-}  // namespace
-
-void LoadBaseArmy(ArmyState& state, Host& host) {
-  try {
-    if (state.Management.ArmyName.Text.empty()) {
-      state.Management.ArmyName.Text = state.BaseArmyName;
-    }
-    LoadLeaders(state, host);
-    LoadLimits(state);
-    LoadSpecials(state);
-    state.BaseUnits.Fill({});
-    state.TotUnits = ReadNumber(state, "tot_units");
-    state.PointsLeft = ReadNumber(state, "points");
-    state.ArmyPoints = state.PointsLeft;
-    state.CommandPts = ReadNumber(state, "command_pts");
-    state.PointsSpent = 0;
-    ShowPoints(state);
-    LoadUnits(state, host);
-  } catch (const RuntimeError&) {
-    // An army that breaks the catalog's rules is offered as far as it could be read.
-  }
-}
-
+/// A missing row is reported; the leaders before it stay.
 void LoadLeaders(ArmyState& state, Host& host) {
   state.SelectedLeader = -1;
   TickOption(state.Command.LeaderName, -1);
-  state.LeaderCount = ReadNumber(state, "tot_leader");
+  state.LeaderCount = ReadCount(state, "tot_leader");
   state.Command.LeaderName[0].Visible = true;
   for (Int16 i = 0; i < state.LeaderCount; ++i) {
     const std::string row = ReadKey(state, RowKey("leader", i + 1));
@@ -101,21 +100,18 @@ void LoadLeaders(ArmyState& state, Host& host) {
 }
 
 void LoadLimits(ArmyState& state) {
-  state.TotLimits = ReadNumber(state, "tot_limits");
-  for (Int16 i = 1; i <= state.TotLimits; ++i) {
+  const Int16 count = ReadCount(state, "tot_limits");
+  for (Int16 i = 1; i <= count; ++i) {
     const std::string row = ReadKey(state, RowKey("limit", i));
     state.Limits[i] = ParseLimitRow(row);
     ShowLimit(state, i, GetField(row, 1));
-  }
-  for (Int16 j = state.TotLimits; j <= 6; ++j) {
-    state.Units.TypeLimit[j].Visible = false;
-    state.Units.MinLimit[j].Visible = false;
+    state.TotLimits = i;
   }
 }
 
 void LoadSpecials(ArmyState& state) {
   CommandPanel& panel = state.Command;
-  state.TotSpecial = ReadNumber(state, "tot_special");
+  state.TotSpecial = ReadCount(state, "tot_special");
   for (Int16 i = 1; i <= state.TotSpecial; ++i) {
     const Int16 j = i - 1;
     if (!state.SpecRowsLoaded || !panel.SpecBuy.Has(j)) {
@@ -136,6 +132,28 @@ void LoadSpecials(ArmyState& state) {
     ShowCardRow(panel, i - 1, false);
   }
   state.SpecRowsLoaded = true;
+}
+
+}  // namespace
+
+void LoadBaseArmy(ArmyState& state, Host& host) {
+  try {
+    if (state.Management.ArmyName.Text.empty()) {
+      state.Management.ArmyName.Text = state.BaseArmyName;
+    }
+    ForgetRows(state);
+    LoadLeaders(state, host);
+    LoadLimits(state);
+    LoadSpecials(state);
+    const Int16 unitCount = ReadNumber(state, "tot_units");
+    state.PointsLeft = ReadNumber(state, "points");
+    state.ArmyPoints = state.PointsLeft;
+    state.CommandPts = ReadNumber(state, "command_pts");
+    ShowPoints(state);
+    LoadUnits(state, host, unitCount);
+  } catch (const RuntimeError&) {
+    // An army that breaks the catalog's rules is offered as far as it could be read.
+  }
 }
 
 }  // namespace tarnwick

@@ -7,17 +7,10 @@
 
 namespace tarnwick {
 
-/// Fills the state from the section `BaseArmyName` of the base army catalog. A missing unit row is
-/// reported and leaves the army without units; a row that breaks the catalog's rules ends the
-/// loading silently with what was read so far.
+/// Fills the state from the section `BaseArmyName` of the base army catalog. A missing leader or
+/// unit row is reported; without a unit row the army has no units. A row that breaks the catalog's
+/// rules, or is one more than the state or the window has room for, ends the loading silently:
+/// `TotUnits` and `TotLimits` are then the rows that were read before it.
 void LoadBaseArmy(ArmyState& state, Host& host);
-
-// What LoadBaseArmy is made of. A row in excess of its table or of the window's controls throws
-// SubscriptError, a number that is none TypeMismatchError.
-
-/// A missing leader row is reported; the leaders before it stay.
-void LoadLeaders(ArmyState& state, Host& host);
-void LoadLimits(ArmyState& state);
-void LoadSpecials(ArmyState& state);
 
 }  // namespace tarnwick

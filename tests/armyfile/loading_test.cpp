@@ -143,6 +143,9 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
     full += RowKey("unit", i) + "=MI,,3,1,,5,9,\n";
   sample_.Folder.Write("armylist.dat", full);
   EXPECT_THROW(Load(file), SubscriptError);
+  sample_.Folder.Write("armylist.dat", "[Sample Army]\ntot_units=-3\n");
+  Load(file);
+  EXPECT_EQ(host_.Heard(), Lines{"Unit number 1" + notFound});
 }
 
 TEST_F(Loading, BrokenFilesEndInAMessageOrANamedError) {

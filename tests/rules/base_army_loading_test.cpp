@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/errors.h"
 #include "support/sample_state.h"
 
 namespace tarnwick {
@@ -42,7 +41,7 @@ std::string Summary(const ArmyState& state) {
 TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
   SampleState sample(
       "points=400 or so\ncommand_pts=250\n"
-      "tot_units=2\nunit1=HI,Vet,2.5,4, J ,16.5,8,Line\nunit2=SK,,3,1,,4,\" 7\"\n"
+      "tot_units=2\nunit1=HI,Vet,2.5,4, J ,16.5,8,Line\nunit2=SK,,3,1,,4, 7\n"
       "tot_leader=2\nleader1=Arcas of Tyre,7,1,120\nleader2=Milo,x,2,0\n"
       "tot_limits=5\nlimit1=HI+MI,4\nlimit2=CO,2,Vet\nlimit3=HI+MI+BI,3 at least\n"
       "limit4=LI+SK,1,Yth\nlimit5=EL\n"
@@ -69,7 +68,9 @@ TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
   TickOption(state.Command.LeaderName, 0);
   sample.Load("Other");
   EXPECT_EQ(Summary(state), "Mine 70/0 0: 1 0 1 0");
-  EXPECT_EQ(unit.UnitType + NumberText(unit.Bought), "MI0");
+  EXPECT_EQ(unit.UnitType + NumberText(unit.Bought) + state.BaseUnits[2].UnitType, "MI0");
+  EXPECT_EQ(Shown(state.Units.TypeLimit, 5) + Shown(state.Units.MinLimit, 5),
+            "-|-|-|-|-|-|-|-|-|-|");
   EXPECT_EQ(state.SelectedLeader, -1);
   EXPECT_EQ(Shown(state.Command.LeaderName, 2), "Cato 20 [ 5 / 1 ] |-|");
   EXPECT_FALSE(state.Command.LeaderName[0].Value);
@@ -90,31 +91,41 @@ TEST(LoadBaseArmy, ReportsWhatIsMissing) {
 }
 
 TEST(LoadBaseArmy, ARowThatBreaksTheRulesEndsItQuietly) {
-  for (const std::string row : {"HI,,3,1,,,9,", "HI,,3,1,,5,many,", "HI,,3,1,,70000,9,", "HI"}) {
-    SampleState sample("points=100\ntot_units=3\nunit1=MI,,3,1,,5,9,\nunit2=" + row + "\n");
-    EXPECT_EQ(sample.Host.Heard(), Lines{}) << row;
-    EXPECT_EQ(sample.State.BaseUnits[1].UnitType, "MI") << row;
-    EXPECT_EQ(Points(sample.State), "100/0") << row;
+  const std::string good = "points=70\ncommand_pts=9\n";
+  const std::string twoUnits = "tot_units=2\nunit1=MI,,3,1,,5,9,\nunit2=";
+  const struct {
+    std::string Army, Summary, Limits;
+  } cases[] = {
+      {good + Rows("tot_units", "unit", 201, "HI,,3,1,,5,9,"), "70/0 9: 200 0 0 0", "-|-|-|-|-|"},
+      {good + twoUnits + "HI,,3,1,,,9,", "70/0 9: 1 0 0 0", "-|-|-|-|-|"},
+      {good + twoUnits + "HI,,3,1,,5,many,", "70/0 9: 1 0 0 0", "-|-|-|-|-|"},
+      {good + twoUnits + "HI,,3,1,,70000,9,", "70/0 9: 1 0 0 0", "-|-|-|-|-|"},
+      {good + twoUnits + "HI", "70/0 9: 1 0 0 0", "-|-|-|-|-|"},
+      // What comes behind the fault stays as the army before had it.
+      {"points=70000\n" + twoUnits + "HI,,3,1,,5,9,", "100/0 50: 0 0 0 0", "-|-|-|-|-|"},
+      {good + twoUnits + "\ntot_special=70000", "100/0 50: 0 0 0 1", "-|-|-|-|-|"},
+      {good + Rows("tot_limits", "limit", 8, "LI,1"), "100/0 50: 0 7 0 1", "LI|LI|LI|LI|LI|"},
+      {good + "tot_limits=2\nlimit1=LI,1\nlimit2=LI,70000", "100/0 50: 0 1 0 1", "LI|-|-|-|-|"},
+      {good + Rows("tot_leader", "leader", 8, "Milo,5,1,20"), "100/0 50: 0 0 8 1", "-|-|-|-|-|"},
+      {good + "tot_leader=2\nleader1=Milo,5,1,20\nleader2=Cato,5,,20", "100/0 50: 0 0 2 1",
+       "-|-|-|-|-|"},
+      {"points=70000\ntot_units=-3", "100/0 50: 0 0 0 0", "-|-|-|-|-|"},
+      // A negative number of rows is none.
+      {good + twoUnits + "HI,,3,1,,5,9,\ntot_limits=-1\ntot_leader=-1\ntot_special=-1",
+       "70/0 9: 2 0 0 0", "-|-|-|-|-|"}};
+  for (const auto& [army, summary, limits] : cases) {
+    SCOPED_TRACE(army.substr(0, 200));
+    SampleState sample("points=100\ncommand_pts=50\n" +
+                       Rows("tot_units", "unit", 3, "HI,,3,1,,5,9,") +
+                       Rows("tot_limits", "limit", 5, "HI,1") +
+                       "tot_special=1\nspecial1=RALLY,1,1\n[More]\n" + army + "\n");
+    sample.State.PointsSpent = 5;
+    sample.Load("More");
+    EXPECT_EQ(sample.Host.Heard(), Lines{});
+    EXPECT_EQ(Summary(sample.State), "Sample " + summary);
+    EXPECT_EQ(Shown(sample.State.Units.TypeLimit, 5), limits);
+    EXPECT_EQ(sample.State.Units.Buy[0].Visible, sample.State.TotUnits > 0);
   }
-  // A leader breaks off before the points are read.
-  SampleState sample("points=100\ntot_leader=2\nleader1=Milo,5,1,20\nleader2=Cato,5,,20\n");
-  EXPECT_EQ(sample.Host.Heard(), Lines{});
-  EXPECT_EQ(Summary(sample.State), "Sample 0/0 0: 0 0 2 0");
-  EXPECT_THROW(LoadLeaders(sample.State, sample.Host), TypeMismatchError);
-}
-
-TEST(LoadBaseArmy, TablesAndControlsHoldSoManyRowsAndNoMore) {
-  SampleState leaders(Rows("tot_leader", "leader", 8, "Milo,5,1,20"));
-  EXPECT_EQ(leaders.State.Leaders[7].Name, "Milo");
-  EXPECT_TRUE(leaders.State.Command.LeaderName[6].Visible);
-  EXPECT_THROW(LoadLeaders(leaders.State, leaders.Host), SubscriptError);
-  SampleState limits(Rows("tot_limits", "limit", 8, "HI,1"));
-  EXPECT_EQ(limits.State.Limits[8].TypeA, "HI");
-  EXPECT_THROW(LoadLimits(limits.State), SubscriptError);
-  SampleState units("[More]\npoints=70\n" + Rows("tot_units", "unit", 201, "HI,,3,1,,5,9,"));
-  units.State.BaseArmyName = "More";
-  EXPECT_NO_THROW(LoadBaseArmy(units.State, units.Host));
-  EXPECT_EQ(units.State.PointsLeft, 70);
 }
 
 TEST(LoadSpecials, TheFirstArmyMakesFourRowsAndLaterOnesLabelTheirs) {
