@@ -140,9 +140,10 @@ class ArmyLoader {
     }
     if (army_.LeaderCount > 10) return;
     const Int16 index = army_.LeaderCount;
-    const Int16 initiative = LenientInt16(Read("LEADER", "initiative"));
+    const double initiative = LenientNumber(Read("LEADER", "initiative"));
     const Int16 command = LenientInt16(Read("LEADER", "command"));
-    army_.Leaders[index] = {name, NumberText(initiative), command, LeaderCost(initiative, command)};
+    army_.Leaders[index] = {name, NumberText(initiative), command,
+                            LeaderCost(RoundToInt16(initiative), command)};
     ++army_.LeaderCount;
     ShowLeader(army_, index);
     TakeLeader(index);

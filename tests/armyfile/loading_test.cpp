@@ -70,10 +70,10 @@ TEST_F(Loading, BringsBackTheWholeArmy) {
   EXPECT_EQ(army_.BaseUnits[2].ChosenImageIdx, 2);  // the last line's picture
   EXPECT_EQ(army_.Units.Buy[1].Text + army_.Units.ImageName[1].Text(), "2Javelin");
 
-  Load(ReplaceText("Arcas the Other", "Cyr", file));
-  EXPECT_EQ(army_.Command.LeaderName[1].Caption, "Cyr 70 [ 5 / 1 ] ");
+  Load(ReplaceText("Arcas the Other\ninitiative=5", "Cyr\ninitiative=5.5 or so", file));
+  EXPECT_EQ(army_.Command.LeaderName[1].Caption, "Cyr 100 [ 5.5 / 1 ] ");  // the cost of 6
   EXPECT_TRUE(army_.Command.LeaderName[1].Value && army_.Command.LeaderName[1].Visible);
-  EXPECT_EQ(Bought(), "02010 434/36 125");
+  EXPECT_EQ(Bought(), "02010 434/36 95");
   Load(ReplaceText("[ARMY]", "[ARMY]\nname=No\nNAME=Nor\n", file) + "unit1=X\n[ARMY]\nbase=X\n");
   EXPECT_EQ(Bought() + army_.Management.ArmyName.Text, "02010 434/36 45No");  // the first counts
 }
