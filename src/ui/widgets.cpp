@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets.h"
 
-#include <algorithm>
-
 #include <QButtonGroup>
 #include <QRadioButton>
 #include <QTextCursor>
-#include <QTextDocument>
 #include <QValidator>
 
 #include "base/ansi.h"
@@ -38,7 +35,7 @@ class QuantityValidator : public QValidator {
   }
 };
 
-/// Keeps out what would lead out of the folder or could not be stored everywhere.
+/// Keeps a name as short as files can be named.
 class FileNameValidator : public QValidator {
  public:
   using QValidator::QValidator;
@@ -52,42 +49,34 @@ class DescriptionBox : public QPlainTextEdit {
  public:
   DescriptionBox(int lineBreakSize, QWidget* parent)
       : QPlainTextEdit(parent), lineBreakSize_(lineBreakSize) {
-    connect(document(), &QTextDocument::contentsChange, this,
-            [this](int position, int /*removed*/, int added) {
-              inserted_ = added;
-              insertedEnd_ = position + added;
-            });
     connect(this, &QPlainTextEdit::textChanged, this, &DescriptionBox::CutInsertion);
   }
 
  private:
-  int StoredSize() const {
-    const QString text = PlainText(*this);
-    return static_cast<int>(text.size() + text.count('\n') * (lineBreakSize_ - 1));
+  int StoredSize(QChar c) const {
+    if (c.isLowSurrogate()) return 0;  // the second half of a character
+    return c == '\n' ? lineBreakSize_ : 1;
   }
 
-  /// Takes off the end of what was typed or pasted as much as the line of the file can't hold.
+  /// Takes off the end of what was typed or pasted, which the cursor stands behind, as much as the
+  /// line of the file can't hold.
   void CutInsertion() {
-    while (inserted_ > 0 && StoredSize() > longestValue) {
-      const int cut =
-          std::min(inserted_, std::max(1, (StoredSize() - longestValue) / lineBreakSize_));
-      const int end = insertedEnd_;
-      const int left = inserted_ - cut;
-      QTextCursor cursor(document());
-      cursor.setPosition(end - cut);
-      cursor.setPosition(end, QTextCursor::KeepAnchor);
-      inserted_ = 0;                   // the removal below is no insertion to cut
-      cursor.joinPreviousEditBlock();  // undo takes back what was typed and the cut at once
-      cursor.removeSelectedText();
-      cursor.endEditBlock();
-      inserted_ = left;
-      insertedEnd_ = end - cut;
-    }
+    const QString text = PlainText(*this);
+    int excess = -longestValue;
+    for (const QChar c : text)
+      excess += StoredSize(c);
+    QTextCursor cursor = textCursor();
+    int end = cursor.position();
+    while (excess > 0 && end > 0)
+      excess -= StoredSize(text[--end]);
+    if (end == cursor.position()) return;
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.joinPreviousEditBlock();  // undo takes back what was typed and the cut at once
+    cursor.removeSelectedText();
+    cursor.endEditBlock();
   }
 
   int lineBreakSize_;
-  int inserted_ = 0;
-  int insertedEnd_ = 0;
 };
 
 }  // namespace

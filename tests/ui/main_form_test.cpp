@@ -170,6 +170,26 @@ TEST_F(WindowTest, TextBoxesTakeWhatAFileCanHold) {
   Hands.Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Text("ArmyDesc"), QString(200, 'a') + "\ny\n" + QString(51, 'b'));
   EXPECT_EQ(Work.Header.ArmyDescription.size(), 254U);
+
+  // All of it is replaced, by what fits of the paste.
+  QString alphabet;
+  for (int i = 0; i < 300; ++i)
+    alphabet += i % 50 == 49 ? QChar('\n') : QChar('a' + i % 26);
+  QApplication::clipboard()->setText(alphabet);
+  for (const bool empty : {false, true}) {
+    Hands.Press(Qt::Key_A, Qt::ControlModifier);
+    if (empty) Hands.Press(Qt::Key_Delete);
+    Hands.Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Text("ArmyDesc"), alphabet.left(254));
+  }
+  for (const char* paste : {"😀😀", "??"}) {
+    Hands.Press(Qt::Key_Backspace);
+    QApplication::clipboard()->setText(QString::fromUtf8(paste));
+    Hands.Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Text("ArmyDesc"), alphabet.left(253) + "?");
+  }
+  Hands.Press(Qt::Key_Z, Qt::ControlModifier);  // paste and cut are one step
+  EXPECT_EQ(Text("ArmyDesc"), alphabet.left(253));
 }
 
 }  // namespace
