@@ -46,7 +46,7 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
 
   connect(list, &QListWidget::itemSelectionChanged, this,
           [this] { Run([this] { ShowArmyDetail(session_.Work.Army, form_); }); });
-  connect(list, &QListWidget::itemDoubleClicked, this, [this] {
+  OnDoubleClick(list, [this] {
     Run([this] { ShowArmyDetail(session_.Work.Army, form_); });
     Select();
   });

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/session.h"
+#include "ui/widgets.h"
 
 namespace tarnwick {
 
@@ -26,7 +27,7 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
   FillArmySelection(session_.Work.Army, form_);
   bindings_.Add(list, form_.ArmyList);
   bindings_.Refresh();
-  connect(list, &QListWidget::itemDoubleClicked, this, &ArmySelectionDialog::Confirm);
+  OnDoubleClick(list, [this] { Confirm(); });
   connect(confirm, &QPushButton::clicked, this, &ArmySelectionDialog::Confirm);
 }
 

@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets.h"
 
+#include <utility>
+
 #include <QButtonGroup>
+#include <QListWidget>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QTextCursor>
 #include <QValidator>
@@ -79,6 +83,28 @@ class DescriptionBox : public QPlainTextEdit {
   int lineBreakSize_;
 };
 
+/// Acts at a double click on the empty part of a list, of which the list itself says nothing.
+class EmptyPartClick : public QObject {
+ public:
+  EmptyPartClick(QListWidget* list, std::function<void()> act)
+      : QObject(list), list_(list), act_(std::move(act)) {
+    list->viewport()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*viewport*/, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonDblClick) return false;
+    const auto* click = static_cast<QMouseEvent*>(event);
+    const bool empty = list_->itemAt(click->position().toPoint()) == nullptr;
+    if (empty && click->button() == Qt::LeftButton) act_();
+    return false;
+  }
+
+ private:
+  QListWidget* list_;
+  std::function<void()> act_;
+};
+
 }  // namespace
 
 int TextWidth(const QWidget* widget, int characters) {
@@ -116,6 +142,11 @@ QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
   auto* box = NewTextBox(name, parent);
   box->setValidator(&validator);
   return box;
+}
+
+void OnDoubleClick(QListWidget* list, const std::function<void()>& act) {
+  QObject::connect(list, &QListWidget::itemDoubleClicked, list, act);
+  new EmptyPartClick(list, act);
 }
 
 QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent) {

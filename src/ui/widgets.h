@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +11,7 @@
 #include <QPushButton>
 
 class QButtonGroup;
+class QListWidget;
 
 namespace tarnwick {
 
@@ -39,6 +42,9 @@ QLineEdit* NewFileNameBox(const QString& name, QWidget* parent);
 /// A box of several lines that stops at what one line of a file can hold, when each of its line
 /// breaks takes `lineBreakSize` bytes there.
 QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent);
+
+/// Runs `act` at a double click in the list, on its empty part too.
+void OnDoubleClick(QListWidget* list, const std::function<void()>& act);
 
 QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent);
 

@@ -138,7 +138,16 @@ TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndNoPeriod) {
   Hands.Click("modOption(1)");
   Hands.Click("ShowDetailBtn");
   EXPECT_FALSE(Hands.Find("HistoricTab").isVisible());
-  NewArmy(0);
+  Hands.OnDialog([this] {  // below its entries the list asks for one, too
+    const auto& list = Hands.Find<QListWidget>("ArmyList");
+    const QPoint empty(9, list.viewport()->height() - 9);
+    ASSERT_EQ(list.itemAt(empty), nullptr);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+    EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please select one army"});
+    Hands.ClickEntry("ArmyList", 0, true);
+  });
+  Hands.Click("ShowSaveFrame");
+  Hands.Click("NewArmyBtn");
   EXPECT_EQ(Text("ArmyName"), "Fenmoot of Oorl");
   EXPECT_TRUE(Ticked("TYPE_IsFantasy"));
   Hands.Click("modOption(0)");
