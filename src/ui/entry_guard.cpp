@@ -35,8 +35,8 @@ void EntryGuard::Watch(QWidget* box, const std::function<bool()>& accepted) {
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
 
-QWidget* EntryGuard::BoxInFocus() const {
-  QWidget* focus = QApplication::focusWidget();
+QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
+  QWidget* focus = window != nullptr ? window->focusWidget() : nullptr;
   return checks_.contains(focus) ? focus : nullptr;
 }
 
@@ -62,7 +62,7 @@ bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       return RefusesClick(object, event);
     case QEvent::Shortcut:
-      return BoxInFocus() != nullptr && !Check(BoxInFocus());
+      return RefusesShortcut();
     case QEvent::KeyPress:
       return checks_.contains(object) && RefusesKey(static_cast<QWidget*>(object), event);
     case QEvent::FocusOut:
@@ -74,14 +74,19 @@ bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
 }
 
 bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
-  QWidget* box = BoxInFocus();
-  if (box == nullptr || QApplication::activePopupWidget() != nullptr) return false;
+  if (QApplication::activePopupWidget() != nullptr) return false;
   const QWidget* clicked = ClickedWidget(object, *static_cast<QMouseEvent*>(event));
-  if (clicked == nullptr || clicked->window() != box->window()) return false;
-  if (clicked == box || box->isAncestorOf(clicked)) return false;
+  if (clicked == nullptr) return false;
+  QWidget* box = BoxInFocus(clicked->window());
+  if (box == nullptr || clicked == box || box->isAncestorOf(clicked)) return false;
   // The window asked already when the widget sees the click.
   if (object->isWidgetType() && passed_ == box) return false;
   return !Check(box);
+}
+
+bool EntryGuard::RefusesShortcut() {
+  QWidget* box = BoxInFocus(QApplication::activeWindow());
+  return box != nullptr && !Check(box);
 }
 
 bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {

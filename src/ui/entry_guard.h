@@ -27,9 +27,11 @@ class EntryGuard : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  QWidget* BoxInFocus() const;
+  /// The box that has the focus of a window, whether that is active or not.
+  QWidget* BoxInFocus(const QWidget* window) const;
   bool Check(QWidget* box);
   bool RefusesClick(QObject* object, QEvent* event);
+  bool RefusesShortcut();
   bool RefusesKey(QWidget* box, QEvent* event);
   void CheckLostFocus(QWidget* box, QEvent* event);
 

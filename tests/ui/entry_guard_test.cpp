@@ -105,6 +105,25 @@ INSTANTIATE_TEST_SUITE_P(Boxes, LeavingABox,
                            return name;
                          });
 
+TEST_F(WindowTest, ARefusedEntryKeepsTheFocusWhileAnotherWindowIsActive) {
+  NewArmy(0);
+  Hands.Click("ShowUnitsBtn");
+  Hands.Enter("Buy(1)", "5");
+  Hands.Click("ViewBtn(0)");  // the click leaves the box
+  EXPECT_EQ(Hands.TakeMessages(), QStringList{"You can only buy 4 units"});
+  QWidget other;
+  other.show();
+  for (const char* button : {"ViewOption(1)", "ShowSetup"}) {
+    other.activateWindow();
+    WindowDriver::Settle();
+    ASSERT_FALSE(Form.isActiveWindow());
+    Hands.Click(button);
+    EXPECT_EQ(Hands.TakeMessages(), QStringList{"You can only buy 4 units"});
+    EXPECT_EQ(Form.focusWidget()->objectName(), "Buy(1)");
+  }
+  EXPECT_FALSE(Ticked("ViewOption(1)") || Hands.Find("EditFrame(6)").isVisible());
+}
+
 TEST_F(WindowTest, TheLeaderDialogKeepsARefusedCommand) {
   struct Leaving {
     std::function<void()> Leave;
