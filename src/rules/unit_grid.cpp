@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "rules/unit_grid.h"
 
+#include <algorithm>
+#include <array>
+#include <string>
+#include <utility>
+
 #include "base/ansi.h"
 #include "base/numbers.h"
 #include "rules/budget.h"
@@ -21,21 +26,29 @@ bool InView(const ArmyState& state, Int16 row) {
   return unit.Bought > 0;
 }
 
+/// What the columns of the catalog show of a unit.
+auto CatalogTexts(const UnitRec& unit) {
+  using Column = UnitsPanel::Column<Label> UnitsPanel::*;
+  return std::to_array<std::pair<Column, std::string>>(
+      {{&UnitsPanel::TypeLabel, unit.UnitType},
+       {&UnitsPanel::ClassLabel, unit.UnitClass},
+       {&UnitsPanel::TQLabel, unit.TQ},
+       {&UnitsPanel::SizeLabel, unit.Size},
+       {&UnitsPanel::MissileLabel, unit.Missile},
+       {&UnitsPanel::CostLabel, NumberText(unit.Cost)},
+       {&UnitsPanel::MaxLabel, NumberText(unit.MaxCount)},
+       {&UnitsPanel::specLabel, unit.SpecialsKey.empty() ? "" : "(+)"}});
+}
+
 void FillLine(ArmyState& state, Int16 k, Int16 row) {
   const UnitRec& unit = state.BaseUnits[row];
   UnitsPanel& grid = state.Units;
   ShowGridLine(grid, k, true);
   grid.Buy[k].Tag = NumberText(row);
-  grid.specLabel[k].Caption = unit.SpecialsKey.empty() ? "" : "(+)";
-  grid.TypeLabel[k].Caption = unit.UnitType;
-  grid.ClassLabel[k].Caption = unit.UnitClass;
+  for (const auto& [column, text] : CatalogTexts(unit))
+    (grid.*column)[k].Caption = text;
   grid.TypeLabel[k].ForeColor =
       MountedKind(state, unit.UnitType, row) == mounted ? lightBlue : black;
-  grid.TQLabel[k].Caption = unit.TQ;
-  grid.SizeLabel[k].Caption = unit.Size;
-  grid.MissileLabel[k].Caption = unit.Missile;
-  grid.CostLabel[k].Caption = NumberText(unit.Cost);
-  grid.MaxLabel[k].Caption = NumberText(unit.MaxCount);
   grid.Buy[k].Text = unit.Bought < 1 ? "" : NumberText(unit.Bought);
   grid.UnitTotalLabel[k].Caption = NumberText(unit.Bought * unit.Cost);
   ShowUnitImages(state, k, row);
@@ -66,6 +79,21 @@ void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
   grid.Buy[line].Visible = visible;
   grid.ImageName[line].Visible = visible;
   grid.ViewBtn[line].Visible = visible;
+}
+
+void FindUnitsAgain(ArmyState& state) {
+  Int16 row;
+  for (Int16 k; k < lines && state.Units.Buy[k].Visible; ++k) {
+    const auto shown = [&](const auto& text) {
+      return (state.Units.*text.first)[k].Caption == text.second;
+    };
+    do {
+      if (++row > state.TotUnits) return;
+    } while (!std::ranges::all_of(CatalogTexts(state.BaseUnits[row]), shown));
+    const std::string typed = state.Units.Buy[k].Text;
+    FillLine(state, k, row);
+    state.Units.Buy[k].Text = typed;
+  }
 }
 
 void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
@@ -119,12 +147,11 @@ void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line) {
 }
 
 void specLabel_Click(ArmyState& state, Host& host, Int16 line) {
-  // A reset leaves the lines without their units until the grid is filled again.
   const std::string& tag = state.Units.Buy[line].Tag;
-  if (tag.empty()) ShowSelectUnits(state);
-  if (tag.empty() || state.Units.specLabel[line].Caption.empty()) return;
+  if (tag.empty()) FindUnitsAgain(state);
+  if (tag.empty()) return;
   state.SpecUnitRow = StrictInt16(tag);
-  host.ShowSpecForm();
+  if (!state.Units.specLabel[line].Caption.empty()) host.ShowSpecForm();
 }
 
 }  // namespace tarnwick

@@ -15,6 +15,11 @@ void ShowSelectUnits(ArmyState& state);
 /// Shows or hides the twelve controls of a grid line.
 void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
 
+/// After a reset the lines don't name their units any more. Fills the lines again that can be seen,
+/// whatever the view selects, each with the unit that it showed before: the first row with the same
+/// texts behind that of the line above. What is typed in their boxes stays.
+void FindUnitsAgain(ArmyState& state);
+
 /// Fills `ImageName(line)` with the pictures that fit what the line shows and selects the one
 /// chosen for `row`, else the first; that one then becomes the row's choice.
 void ShowUnitImages(ArmyState& state, Int16 line, Int16 row);

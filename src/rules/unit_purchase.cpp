@@ -36,13 +36,8 @@ bool BuyUnits(ArmyState& state, Host& host, Int16 index) {
   UnitsPanel& grid = state.Units;
   TextBox& box = grid.Buy[index];
   box.Text = Trim(box.Text);
-  if (box.Tag.empty()) {
-    // A reset left the line without its unit; the quantity is meant for the one that it shows.
-    const std::string typed = box.Text;
-    ShowSelectUnits(state);
-    if (box.Tag.empty()) return true;
-    box.Text = typed;
-  }
+  if (box.Tag.empty()) FindUnitsAgain(state);
+  if (box.Tag.empty()) return true;
   const Int16 row = StrictInt16(box.Tag);
   const double typed = LenientNumber(box.Text);
   if (typed == 0) {

@@ -84,24 +84,51 @@ TEST_F(Purchase, WhatLeaves16BitsAndDividingByZeroAreErrors) {
   EXPECT_EQ(Line(2), "301 for 0, 300 bought, -1/0");
 }
 
-TEST_F(Purchase, TheTagNamesTheRowAndAnEmptyOneIsFilledFirst) {
+TEST_F(Purchase, TheTagNamesTheRow) {
   TickOption(grid_.ViewOption, 2);
   state_.BaseUnits[2].Bought = 1;
   ShowSelectUnits(state_);
   Buy(0, "2");
   EXPECT_EQ(state_.BaseUnits[2].Bought, 2);
+}
 
-  TickOption(grid_.ViewOption, 0);
-  for (int k = 0; k <= 22; ++k)
-    grid_.Buy[k].Tag = "";
-  EXPECT_EQ(Buy(1, " 3 "), "3 for 90, 3 bought, 40/60");
-  EXPECT_EQ(grid_.Buy[0].Tag, "1");
+TEST_F(Purchase, AfterAResetQuantitiesCountForWhatTheLinesShow) {
+  SampleState twins{
+      "points=100\ntot_units=5\nunit1=HI,,3,1,,9,4,A\nunit2=HI,,3,1,,7,4,A\nunit3=MI,,2,1,,5,9,\n"
+      "unit4=HI,,3,1,,7,4,B\nunit5=HI,,3,1,,7,4,\n"};
+  ArmyState& state = twins.State;
+  UnitsPanel& grid = state.Units;
+  const auto buy = [&](int line, const char* text) {
+    grid.Buy[line].Text = text;
+    BuyUnits(state, twins.Host, line);
+    std::string bought;
+    for (int r = 1; r <= 5; ++r)
+      bought += NumberText(state.BaseUnits[r].Bought);
+    return bought + " " + Points(state);
+  };
+  for (const int view : {0, 2}) {
+    for (int r = 2; r <= 5; ++r)
+      state.BaseUnits[r].Bought = 1;
+    TickOption(grid.ViewOption, view);
+    ShowSelectUnits(state);
+    for (int k = 0; k <= 22; ++k)
+      grid.Buy[k].Tag = grid.Buy[k].Text = grid.UnitTotalLabel[k].Caption = "";
+    for (int r = 1; r <= 5; ++r)
+      state.BaseUnits[r].Bought = 0;
+    state.PointsLeft = 100;
+    state.PointsSpent = 0;
 
-  // In the view of what is bought such a line shows no unit.
-  grid_.Buy[3].Tag = "";
-  TickOption(grid_.ViewOption, 2);
-  Buy(3, "1");
-  EXPECT_EQ(Points(state_), "40/60");
+    const int first = view == 0 ? 1 : 0;  // the line of the second row
+    EXPECT_EQ(buy(first, ""), "00000 100/0");
+    EXPECT_EQ(buy(first + 2, "5"), "00000 100/0");
+    EXPECT_EQ(twins.Host.Heard(), Lines{"You can only buy 4 units"});
+    EXPECT_EQ(buy(first + 2, "2"), "00020 86/14");  // one of two rows alike
+    EXPECT_EQ(buy(first, "1"), "01020 79/21");
+    EXPECT_EQ(buy(first + 3, "1"), "01021 72/28");
+    EXPECT_TRUE(grid.Buy[first + 1].Visible);
+  }
+  grid.Buy[1].Tag = grid.TypeLabel[1].Caption = "";  // shows none of the army's units
+  EXPECT_EQ(buy(1, "1"), "01021 72/28");
 }
 
 }  // namespace
