@@ -55,13 +55,13 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   auto* layout = new QGridLayout(frame);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setHorizontalSpacing(18);
-  layout->addWidget(NewZone("Left", 0, 1, frame), 0, 0);
-  layout->addWidget(NewZone("Centre", 2, 6, frame), 1, 0);
-  layout->addWidget(NewZone("Right", 7, 8, frame), 2, 0);
+  layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
+  layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
+  layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
   auto* units = Named(new QListWidget(frame), "unitList");
   units->setMinimumWidth(TextWidth(units, 28));
   layout->addWidget(units, 0, 1, 3, 1);
-  layout->addWidget(NewLabel("Label1", "Description", frame), 3, 0, 1, 2);
+  layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0, 1, 2);
   auto* description = NewDescriptionBox("description", 2, frame);
   layout->addWidget(description, 4, 0, 1, 2);
   layout->setRowStretch(4, 1);
@@ -75,13 +75,13 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   return frame;
 }
 
-QWidget* SetupPanelWidget::NewZone(const char* caption, int firstPlace, int lastPlace,
+QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlace, int lastPlace,
                                    QWidget* parent) {
   auto* zone = new QFrame(parent);
   zone->setFrameStyle(QFrame::StyledPanel);
   auto* layout = new QGridLayout(zone);
   layout->setVerticalSpacing(2);
-  auto* name = NewLabel("Label1", caption, zone);
+  auto* name = NewLabel(ElementName("Label1", index), caption, zone);
   name->setMinimumWidth(TextWidth(name, 9));
   layout->addWidget(name, 0, 0);
   for (int place = firstPlace; place <= lastPlace; ++place) {

@@ -16,7 +16,7 @@ class SetupPanelWidget : public PanelWidget {
  private:
   QWidget* NewSetupList();
   QWidget* NewSetupFrame();
-  QWidget* NewZone(const char* caption, int firstPlace, int lastPlace, QWidget* parent);
+  QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
   void Connect(QAbstractButton* button, const std::function<void()>& operation);
 };
 

@@ -78,7 +78,9 @@ TEST_F(WindowTest, CaptionsItsControlsToTheLetter) {
       {5,
        {"=Monster Laboratory", "Command4=Save Army", "NewMonsterBtn=New army",
         "Command5=Load army"}},
-      {6, {"=Setup", "Command6=New Setup", "Command3=Delete Setup"}}};
+      {6,
+       {"=Setup", "Command6=New Setup", "Command3=Delete Setup", "Label1(0)=Left",
+        "Label1(1)=Centre", "Label1(2)=Right", "Label1(3)=Description"}}};
   for (const auto& [panel, entries] : inventory) {
     QStringList shown;
     for (const QWidget* widget : Form.findChildren<QWidget*>()) {
