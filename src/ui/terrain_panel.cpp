@@ -36,7 +36,10 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
   auto* side = new QVBoxLayout;
   side->addWidget(NewPointsFrame());
   side->addWidget(
-      NewIdleButton("Command2", "Update", "Points and areas are always up to date", this));
+      NewIdleButton("Command2", "Update",
+                    "The points are always up to date. An area cleared by New army, "
+                    "Reset or Load keeps its old picture until a piece is dropped on it.",
+                    this));
   side->addStretch();
   row->addLayout(side);
   row->addStretch();
