@@ -118,7 +118,7 @@ void DelArmy_Click(const ArmyState& state, Host& host, ArmyListForm& form) {
   if (!host.Question("Do You really want to delete the army " + name + " ?")) return;
   const fs::path file = PathIn(state.ProgramFolder, name + std::string(ending));
   std::error_code error;
-  if (!fs::remove(file, error)) {
+  if (!FileExists(file) || !fs::remove(file, error)) {
     if (!error) error = std::make_error_code(std::errc::no_such_file_or_directory);
     throw FileError("File " + AnsiFromPath(file) + " cannot be deleted: " + error.message());
   }

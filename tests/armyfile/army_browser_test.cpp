@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/army_browser.h"
 
+#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -101,7 +102,9 @@ TEST_F(ArmyBrowser, DeletesInTheProgramFolderAfterAQuestion) {
   DelArmy_Click(work_.Army, host_, form_);
   EXPECT_FALSE(folder_.Has("a.army") || form_.ArmyList.HasSelection());
   EXPECT_EQ(Select("a"), "a;");
+  std::filesystem::create_directory(folder_ / "a.army");  // no file
   EXPECT_THROW(DelArmy_Click(work_.Army, host_, form_), FileError);
+  EXPECT_TRUE(folder_.Has("a.army"));
   const std::string question = "Do You really want to delete the army a ?";
   EXPECT_EQ(host_.Heard(), (Lines{question, question, question}));
 }
