@@ -174,7 +174,9 @@ void assignBtn_Click(Battlefield& field, ArmyState& state, Host& host, Int16 pla
 }
 
 void ShowSetup_Click(Battlefield& field, ArmyState& state) {
+  state.SetupLoading = true;
   field.Setup.setupFramePanel.Visible = false;
+  state.SetupLoading = false;
   ShowPanel(state, Panel::Setup);
 }
 

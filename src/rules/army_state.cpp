@@ -13,7 +13,7 @@ std::string VersionText(const Version& version) {
 }
 
 void InitializeVariables(ArmyState& state) {
-  state.ArmyListFile = ModuleFolder(state) / "armylist.dat";
+  state.ArmyListFile = state.ProgramFolder / "armylist.dat";
 
   for (int k = 0; k <= 22; ++k)
     ShowGridLine(state.Units, k, false);
