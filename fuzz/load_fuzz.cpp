@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -70,6 +71,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     Form_Load(work);
     LoadBtn_Click(work, host);
+    Int16 spent;
+    for (const UnitRec& unit : work.Army.BaseUnits)
+      spent += unit.Bought * unit.Cost;
+    if (work.Army.PointsSpent != spent) std::abort();
     SaveArmy(work, host);
   } catch (const RuntimeError&) {
     // The window names it and ends the program.

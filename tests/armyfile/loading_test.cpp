@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/loading.h"
 
-#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -146,46 +145,6 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
   sample_.Folder.Write("armylist.dat", "[Sample Army]\ntot_units=-3\n");
   Load(file);
   EXPECT_EQ(host_.Heard(), Lines{"Unit number 1" + notFound});
-}
-
-TEST_F(Loading, BrokenFilesEndInAMessageOrANamedError) {
-  const auto load = [this](const std::string& bytes) {
-    try {
-      Load(bytes);
-    } catch (const RuntimeError&) {
-      host_.Message("error");
-    }
-    Int16 spent;
-    for (const UnitRec& unit : army_.BaseUnits)
-      spent += unit.Bought * unit.Cost;
-    EXPECT_EQ(army_.PointsSpent, spent);
-    EXPECT_FALSE(army_.GridFilling || army_.SetupLoading);
-    const Lines said = host_.Heard();
-    EXPECT_LE(said.size(), 1U);
-    return said.empty() ? "" : said.back();
-  };
-  for (std::size_t length = 0; length < file.size(); ++length) {
-    SCOPED_TRACE(length);
-    load(file.substr(0, length));
-  }
-  std::string line = "SK,,3,1,J,pictures/sk two.svg";
-  for (int i = 7; i <= 20; ++i)
-    line += ",9";
-  for (int fields = 0; fields <= 20; ++fields) {
-    std::size_t end = 0;
-    for (int i = 0; i < fields; ++i)
-      end = std::min(line.find(',', end + (i > 0)), line.size());
-    const std::string said =
-        load("[ARMY]\nbase=Sample Army\nnumunits=1\nunit1=" + line.substr(0, end) + "\n");
-    EXPECT_EQ(said.substr(0, 8), fields < 5 ? "Unit num" : fields < 6 ? "No image" : "") << fields;
-  }
-  std::string noise;
-  for (unsigned i = 0, seed = 1; i < 1'000'000; ++i)
-    noise += static_cast<char>((seed = seed * 69069 + 1) >> 24);
-  const std::string unknown =
-      "The army type [] is not present in armylist.dat\r\nThis army cannot be edited";
-  for (const auto& foreign : {noise, std::string("{\"army\": 1}"), std::string(99, '\0')})
-    EXPECT_EQ(load(foreign), unknown);
 }
 
 TEST_F(Loading, TheSecondModuleLosesTerrainAndSetups) {

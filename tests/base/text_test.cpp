@@ -54,12 +54,12 @@ TEST(Ansi, WhatIsOutsideTheCodePageIsAQuestionMark) {
     const char* Utf8;
     const char* Ansi;
   } cases[] = {
-      {"Ω-ł-𝄞!", "?-?-?!"},  // two, two and four bytes, one character each
-      {"a\x80z", "a?z"},     // continuation without a start
-      {"\xC3(", "?("},       // start without its continuation
-      {"\xE2\x82", "??"},    // cut off
-      {"\xFFz", "?z"},       // never a byte of UTF-8
-      {"\xC1\xA1", "??"},    // spelled longer than it may be
+      {"Ω-ऀ-𝄞!", "?-?-?!"},  // two, three and four bytes, one character each
+      {"a\x80z", "a?z"},    // continuation without a start
+      {"\xC3(", "?("},      // start without its continuation
+      {"\xE2\x82", "??"},   // cut off
+      {"\xFFz", "?z"},      // never a byte of UTF-8
+      {"\xC1\xA1", "??"},   // spelled longer than it may be
   };
   for (const auto& c : cases)
     EXPECT_EQ(AnsiFromUtf8(c.Utf8), c.Ansi);

@@ -20,6 +20,10 @@ struct Box {
   const char *NextBox, *Option;
 };
 
+void PrintTo(const Box& box, std::ostream* out) {
+  *out << box.Name;
+}
+
 std::string Spent(const WorkingArmy& work) {
   return "points=" + std::to_string(work.Army.PointsSpent.Value());
 }

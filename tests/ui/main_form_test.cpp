@@ -21,32 +21,6 @@ int PanelOf(const QWidget* widget) {
   return -1;
 }
 
-TEST_F(WindowTest, HoldsEveryElementOfTheControlArrays) {
-  NewArmy(0);  // makes the rows of the cards
-  struct Array {
-    const char* Name;
-    int Panel, Count;
-  };
-  for (const auto& [name, panel, count] :
-       {Array{"Buy", 0, 23},     {"TypeLabel", 0, 23},   {"ClassLabel", 0, 23},
-        {"TQLabel", 0, 23},      {"SizeLabel", 0, 23},   {"MissileLabel", 0, 23},
-        {"CostLabel", 0, 23},    {"MaxLabel", 0, 23},    {"UnitTotalLabel", 0, 23},
-        {"ImageName", 0, 23},    {"ViewBtn", 0, 23},     {"specLabel", 0, 23},
-        {"TypeLimit", 0, 7},     {"MinLimit", 0, 7},     {"ViewOption", 0, 3},
-        {"LeaderName", 1, 7},    {"SpecBuy", 1, 4},      {"SpecNameLabel", 1, 4},
-        {"SpecCostLabel", 1, 4}, {"SpecMaxLabel", 1, 4}, {"FromACBC", 2, 2},
-        {"toACBC", 2, 2},        {"TerrImg", 3, 6},      {"Area", 3, 9},
-        {"modOption", 4, 2},     {"assignBtn", 6, 9},    {"unit", 6, 9},
-        {"EditFrame", -2, 7}}) {
-    for (int i = 0; i < count; ++i) {
-      const auto found = Form.findChildren<QWidget*>(ElementName(name, i));
-      ASSERT_EQ(found.size(), 1) << name << i;
-      EXPECT_EQ(PanelOf(found[0]), panel == -2 ? i : panel) << name << i;
-    }
-    EXPECT_EQ(Form.findChild<QWidget*>(ElementName(name, count)), nullptr) << name;
-  }
-}
-
 TEST_F(WindowTest, CaptionsItsControlsToTheLetter) {
   EXPECT_EQ(Form.windowTitle(), "Velmora Tarnwick ver. 1.2.1");
   const std::map<int, QStringList> inventory = {
