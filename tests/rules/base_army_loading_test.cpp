@@ -48,6 +48,7 @@ TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
       "[Other]\npoints=70\ntot_units=1\nunit1=MI,,3,1,,5,9,\ntot_leader=1\nleader1=Cato,5,1,20\n");
   ArmyState& state = sample.State;
   EXPECT_EQ(Summary(state), "Sample 400/0 250: 2 5 2 0");
+  EXPECT_EQ(state.Command.SpecBuy.Count(), 4);  // rows for the cards of later armies
   UnitRec& unit = state.BaseUnits[1];
   EXPECT_EQ((Lines{unit.UnitType, unit.UnitClass, unit.TQ, unit.Size, unit.Missile,
                    NumberText(unit.Cost), NumberText(unit.MaxCount), unit.SpecialsKey}),

@@ -128,7 +128,7 @@ TEST_F(BattlefieldTest, TheBrowserRefusesANewerFileAndLoadsByADoubleClick) {
   Enter("Buy(2)", "1");
   Hands.OnDialog([this] {
     EXPECT_EQ(Entries("ArmyList"), (QStringList{"Newer", "Trebia"}));
-    Hands.Click("Command1");
+    DoubleClickBelowArmies();
     Hands.ClickEntry("ArmyList", 0, true);
     EXPECT_TRUE(Text("ArmyDetailLabel").endsWith("\n\n*** Required editor version: 1.3"));
     EXPECT_EQ(Hands.TakeMessages(), (QStringList{"This army has not been created whit this editor",

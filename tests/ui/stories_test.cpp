@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
-#include <QTest>
 #include <QTimer>
 
 #include "support/full_disk.h"
@@ -138,11 +137,8 @@ TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndNoPeriod) {
   Hands.Click("modOption(1)");
   Hands.Click("ShowDetailBtn");
   EXPECT_FALSE(Hands.Find("HistoricTab").isVisible());
-  Hands.OnDialog([this] {  // below its entries the list asks for one, too
-    const auto& list = Hands.Find<QListWidget>("ArmyList");
-    const QPoint empty(9, list.viewport()->height() - 9);
-    ASSERT_EQ(list.itemAt(empty), nullptr);
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+  Hands.OnDialog([this] {
+    DoubleClickBelowArmies();
     EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please select one army"});
     Hands.ClickEntry("ArmyList", 0, true);
   });
@@ -229,6 +225,7 @@ TEST_F(WindowTest, AnArmyThatCannotBeSavedStaysWholeOnDisk) {
 TEST_F(WindowTest, AnErrorInACheckStopsWhatWouldFollow) {
   BuyValidArmy();
   Work.Army.Command.SpecCostLabel[0].Caption = "20000";
+  Form.Refresh();
   Hands.Enter("SpecBuy(0)", "-2");
   EXPECT_EQ(Exec([this] { Hands.Press(Qt::Key_S, Qt::ControlModifier); }), 1);
   EXPECT_EQ(Hands.TakeMessages(), QStringList{"Run-time error: Overflow"});

@@ -13,7 +13,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
+#include <QTest>
 
 #include "support/temp_folder.h"
 #include "ui/application_style.h"
@@ -76,6 +78,14 @@ struct WindowTest : testing::Test {
     Hands.OnDialog([this, row] { Hands.ClickEntry("ArmyList", row, true); });
     Hands.Click("ShowSaveFrame");
     Hands.Click("NewArmyBtn");
+  }
+
+  /// Clicks twice below the entries of the list "ArmyList".
+  void DoubleClickBelowArmies() {
+    const auto& list = Hands.Find<QListWidget>("ArmyList");
+    const QPoint empty(9, list.viewport()->height() - 9);
+    ASSERT_EQ(list.itemAt(empty), nullptr);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, empty);
   }
 
   /// Enters a quantity, year or name and leaves the box.
@@ -178,7 +188,10 @@ inline void WindowTest::ExpectWindowShowsState() const {
   ExpectOptions("modOption", army.Management.modOption, 2);
   ExpectOptions("FromACBC", Work.Header.FromACBC, 2);
   ExpectOptions("toACBC", Work.Header.toACBC, 2);
-  ExpectCaptions("SpecNameLabel", army.Command.SpecNameLabel, army.Command.SpecNameLabel.Count());
+  const int cards = army.Command.SpecNameLabel.Count();
+  ExpectCaptions("SpecNameLabel", army.Command.SpecNameLabel, cards);
+  ExpectCaptions("SpecCostLabel", army.Command.SpecCostLabel, cards);
+  ExpectCaptions("SpecMaxLabel", army.Command.SpecMaxLabel, cards);
   for (int j = 0; j < army.Command.SpecBuy.Count(); ++j) {
     ExpectShown(ElementName("SpecBuy", j), army.Command.SpecBuy[j].Text,
                 army.Command.SpecBuy[j].Visible);
@@ -192,6 +205,11 @@ inline void WindowTest::ExpectWindowShowsState() const {
   ExpectShown("ArmyPts", Work.Field.Terrain.ArmyPts.Caption, true);
   ExpectShown("CommandPts", Work.Field.Terrain.CommandPts.Caption, true);
   ExpectCaptions("unit", Work.Field.Setup.unit, 9);
+  for (int i = 0; i < 9; ++i) {
+    Hands.Find(ElementName("assignBtn", i));
+    Hands.Find(ElementName("Area", i));
+    Hands.Find(ElementName("TerrImg", i % 6));
+  }
   ExpectShown("description", Work.Field.Setup.description.Text, true);
 }
 
