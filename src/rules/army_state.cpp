@@ -3,7 +3,6 @@
 #include "rules/army_state.h"
 
 #include "base/numbers.h"
-#include "rules/unit_grid.h"
 
 namespace tarnwick {
 
@@ -54,6 +53,17 @@ void NewMonster(MonsterPanel& panel) {
   panel.M_TQ.Select("4");
   panel.M_Type.Select("SM");
   panel.M_Size.Select("5");
+}
+
+void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
+  for (auto* column :
+       {&grid.TypeLabel, &grid.ClassLabel, &grid.TQLabel, &grid.SizeLabel, &grid.MissileLabel,
+        &grid.CostLabel, &grid.MaxLabel, &grid.UnitTotalLabel, &grid.specLabel}) {
+    (*column)[line].Visible = visible;
+  }
+  grid.Buy[line].Visible = visible;
+  grid.ImageName[line].Visible = visible;
+  grid.ViewBtn[line].Visible = visible;
 }
 
 void ShowPanel(ArmyState& state, Panel panel) {

@@ -114,6 +114,9 @@ struct ArmyState {
 /// the repeated rows, which stay hidden until an army fills them.
 void InitializeVariables(ArmyState& state);
 
+/// Shows or hides the twelve controls of a grid line.
+void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
+
 /// The panels of `EditFrame`.
 enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaboratory, Setup };
 

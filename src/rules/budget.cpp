@@ -3,7 +3,7 @@
 #include "rules/budget.h"
 
 #include "base/numbers.h"
-#include "rules/special_cards.h"
+#include "rules/deck.h"
 #include "rules/troop_quality.h"
 
 namespace tarnwick {

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "base/host.h"
 #include "base/int16.h"
 #include "rules/army_state.h"
@@ -14,9 +12,5 @@ namespace tarnwick {
 /// true (cancel: the focus stays) when the entry was refused with a message. A negative quantity
 /// is not refused: it gives command points back.
 bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index);
-
-/// The main window's title: name and version, and once there are cards the size of the deck with
-/// the share of unit cards. Counts what the `SpecBuy` boxes show. Throws OverflowError.
-std::string PrintDeckInfo(const ArmyState& state);
 
 }  // namespace tarnwick

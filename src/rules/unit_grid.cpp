@@ -70,17 +70,6 @@ void ShowSelectUnits(ArmyState& state) {
   ShowPoints(state);
 }
 
-void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
-  for (auto* column :
-       {&grid.TypeLabel, &grid.ClassLabel, &grid.TQLabel, &grid.SizeLabel, &grid.MissileLabel,
-        &grid.CostLabel, &grid.MaxLabel, &grid.UnitTotalLabel, &grid.specLabel}) {
-    (*column)[line].Visible = visible;
-  }
-  grid.Buy[line].Visible = visible;
-  grid.ImageName[line].Visible = visible;
-  grid.ViewBtn[line].Visible = visible;
-}
-
 void FindUnitsAgain(ArmyState& state) {
   Int16 row;
   for (Int16 k; k < lines && state.Units.Buy[k].Visible; ++k) {

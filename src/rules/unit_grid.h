@@ -12,9 +12,6 @@ namespace tarnwick {
 /// and refreshes the counters. Moves no points.
 void ShowSelectUnits(ArmyState& state);
 
-/// Shows or hides the twelve controls of a grid line.
-void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
-
 /// After a reset the lines don't name their units any more. Fills the lines again that can be seen,
 /// whatever the view selects, each with the unit that it showed before: the first row with the same
 /// texts behind that of the line above. What is typed in their boxes stays.

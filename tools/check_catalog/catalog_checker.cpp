@@ -316,13 +316,6 @@ void ModuleCheck::CheckBudget(const std::string& army, const std::vector<UnitRec
 
 }  // namespace
 
-std::string ProblemText(const CatalogProblem& problem) {
-  std::string text = problem.File + ": ";
-  if (!problem.Section.empty()) text += "[" + problem.Section + "] ";
-  if (!problem.Key.empty()) text += problem.Key + ": ";
-  return text + problem.Sentence;
-}
-
 std::vector<CatalogProblem> CheckCatalogs(const fs::path& programFolder,
                                           const std::function<bool(const fs::path&)>& canShow) {
   std::vector<CatalogProblem> problems;

@@ -4,22 +4,11 @@
 
 #include <filesystem>
 #include <functional>
-#include <string>
 #include <vector>
 
+#include "check_catalog/catalog_problem.h"
+
 namespace tarnwick {
-
-/// What is wrong at one place of a catalog. Section and key are "" where the file as a whole, or
-/// the section, is meant.
-struct CatalogProblem {
-  std::string File;  ///< relative to the program folder
-  std::string Section;
-  std::string Key;
-  std::string Sentence;
-};
-
-/// "file: [section] key: sentence"
-std::string ProblemText(const CatalogProblem& problem);
 
 /// Everything that is wrong with the catalogs of a program folder, both modules. `canShow` says
 /// whether a picture file can be read as a picture.

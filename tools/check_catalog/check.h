@@ -9,7 +9,7 @@
 
 #include "base/numbers.h"
 #include "catalog/profile_files.h"
-#include "check_catalog/catalog_checker.h"
+#include "check_catalog/catalog_problem.h"
 
 namespace tarnwick {
 
