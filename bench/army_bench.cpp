@@ -88,20 +88,21 @@ struct Desk {
   Desk() {
     WriteCatalogs(Folder);
     WriteArmy(Folder);
-    Form_Load(Work);
-    LoadBtn_Click(Work, Host);
+    Form_Load(Work, Store);
+    LoadBtn_Click(Work, Store, Host);
     Work.Army.Management.ArmyFileName.Text = "Large";
   }
 
   TempFolder Folder;
-  WorkingArmy Work{Folder.Path()};
+  WorkingArmy Work;
+  Disk Store{Folder.Path()};
   LoadingHost Host{Work};
 };
 
 void Load(benchmark::State& state) {
   Desk desk;
   for (auto _ : state)
-    LoadBtn_Click(desk.Work, desk.Host);
+    LoadBtn_Click(desk.Work, desk.Store, desk.Host);
   if (desk.Work.Army.PointsSpent != unitLines * 10) state.SkipWithError("not loaded");
 }
 BENCHMARK(Load)->Unit(benchmark::kMillisecond)->UseRealTime();
@@ -109,7 +110,7 @@ BENCHMARK(Load)->Unit(benchmark::kMillisecond)->UseRealTime();
 void Save(benchmark::State& state) {
   Desk desk;
   for (auto _ : state)
-    SaveArmy(desk.Work, desk.Host);
+    SaveArmy(desk.Work, desk.Store, desk.Host);
   if (desk.Folder.Read("Large.army").find("[SETUP 20]") == std::string::npos) {
     state.SkipWithError("not saved");
   }
@@ -120,9 +121,9 @@ void LoadJustSaved(benchmark::State& state) {
   Desk desk;
   for (auto _ : state) {
     state.PauseTiming();
-    SaveArmy(desk.Work, desk.Host);
+    SaveArmy(desk.Work, desk.Store, desk.Host);
     state.ResumeTiming();
-    LoadBtn_Click(desk.Work, desk.Host);
+    LoadBtn_Click(desk.Work, desk.Store, desk.Host);
   }
 }
 BENCHMARK(LoadJustSaved)->Unit(benchmark::kMillisecond)->UseRealTime();
@@ -134,7 +135,7 @@ void FillBrowser(benchmark::State& state) {
   }
   ArmyListForm form;
   for (auto _ : state)
-    FillArmyList(desk.Work.Army, form);
+    FillArmyList(desk.Work.Army, desk.Store, form);
   if (form.ArmyList.Entries.size() != browsedFiles + 1) state.SkipWithError("not listed");
 }
 BENCHMARK(FillBrowser)->Unit(benchmark::kMillisecond)->UseRealTime();
@@ -142,11 +143,11 @@ BENCHMARK(FillBrowser)->Unit(benchmark::kMillisecond)->UseRealTime();
 void Keystroke(benchmark::State& state) {
   Desk desk;
   desk.Work.Field.Setup.setupList.ListIndex = setups - 1;
-  setupList_Click(desk.Work.Field, desk.Work.Army);
+  setupList_Click(desk.Work.Field, desk.Work.Army, desk.Store);
   bool odd = false;
   for (auto _ : state) {
     desk.Work.Field.Setup.description.Text = (odd = !odd) ? "The horse" : "The horse on the wings";
-    description_Change(desk.Work.Field, desk.Work.Army);
+    description_Change(desk.Work.Field, desk.Work.Army, desk.Store);
   }
 }
 BENCHMARK(Keystroke)->Unit(benchmark::kMillisecond)->UseRealTime();

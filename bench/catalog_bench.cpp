@@ -80,8 +80,8 @@ fs::path CatalogFile() {
 }
 
 std::unique_ptr<ArmyState> NewArmy() {
-  auto army = std::make_unique<ArmyState>(ProgramFolder().Path());
-  InitializeVariables(*army);
+  auto army = std::make_unique<ArmyState>();
+  InitializeVariables(*army, Disk(ProgramFolder().Path()));
   army->BaseArmyName = ArmyNameOf(armies);
   return army;
 }
@@ -128,8 +128,9 @@ BENCHMARK(ReadAndLook)->UseManualTime()->Unit(benchmark::kMillisecond);
 void FirstLoad(benchmark::State& state) {
   for (auto _ : state) {
     const auto army = NewArmy();
+    const Disk disk(ProgramFolder().Path());
     QuietHost host;
-    state.SetIterationTime(SecondsOf([&] { LoadBaseArmy(*army, host); }));
+    state.SetIterationTime(SecondsOf([&] { LoadBaseArmy(*army, disk, host); }));
     if (!IsWhole(*army, host)) state.SkipWithError("the army is not whole");
   }
 }
@@ -138,10 +139,11 @@ BENCHMARK(FirstLoad)->UseManualTime()->Unit(benchmark::kMillisecond);
 /// The file has been read and is unchanged.
 void NextLoad(benchmark::State& state) {
   const auto army = NewArmy();
+  const Disk disk(ProgramFolder().Path());
   QuietHost host;
-  LoadBaseArmy(*army, host);
+  LoadBaseArmy(*army, disk, host);
   for (auto _ : state)
-    LoadBaseArmy(*army, host);
+    LoadBaseArmy(*army, disk, host);
   if (!IsWhole(*army, host)) state.SkipWithError("the army is not whole");
 }
 BENCHMARK(NextLoad)->UseRealTime()->Unit(benchmark::kMicrosecond);

@@ -25,9 +25,10 @@ int main(int argc, char* argv[]) {
   }
   ApplyStyle();
 
-  WorkingArmy work(arguments[1].toStdU16String());
+  WorkingArmy work;
+  Disk disk(arguments[1].toStdU16String());
   FormHost host;
-  Session session(work, host);
+  Session session(work, disk, host);
   host.Serve(session);
   MainForm form(session);
   const EndAtFirstPaint end(form);

@@ -47,7 +47,7 @@ class ShownWindow {
     form_.Start();
     host_.OnArmySelectionForm = [this] { work_.Army.BaseArmyName = "Carthage in Italy"; };
     session_.Run([this] {
-      NewArmyBtn_Click(work_, host_);
+      NewArmyBtn_Click(work_, disk_, host_);
       ShowPanel(work_.Army, Panel::Units);
     });
     form_.show();
@@ -63,7 +63,7 @@ class ShownWindow {
     quantity_ = 3 - quantity_;
     ArmyState& army = work_.Army;
     army.Units.Buy[0].Text = std::to_string(quantity_);
-    session_.Run([&] { BuyUnits(army, host_, 0); });
+    session_.Run([&] { BuyUnits(army, disk_, host_, 0); });
   }
 
   /// Works off all events that are waiting until both places that a purchase changes are painted.
@@ -89,9 +89,10 @@ class ShownWindow {
   }
 
  private:
-  WorkingArmy work_{SHIPPED_DATA};
+  WorkingArmy work_;
+  Disk disk_{SHIPPED_DATA};
   QuietHost host_;
-  Session session_{work_, host_};
+  Session session_{work_, disk_, host_};
   PaintCounter lineTotal_, pointsLeft_;
   MainForm form_{session_};
   int quantity_ = 1;

@@ -66,16 +66,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace tarnwick;
   static const fs::path folder = MakeProgramFolder();
   WriteFile(folder / "input.army", {reinterpret_cast<const char*>(data), size});
-  WorkingArmy work(folder);
+  WorkingArmy work;
+  Disk disk(folder);
   PickingHost host(work);
   try {
-    Form_Load(work);
-    LoadBtn_Click(work, host);
+    Form_Load(work, disk);
+    LoadBtn_Click(work, disk, host);
     Int16 spent;
     for (const UnitRec& unit : work.Army.BaseUnits)
       spent += unit.Bought * unit.Cost;
     if (work.Army.PointsSpent != spent) std::abort();
-    SaveArmy(work, host);
+    SaveArmy(work, disk, host);
   } catch (const RuntimeError&) {
     // The window names it and ends the program.
   }

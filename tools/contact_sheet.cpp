@@ -13,7 +13,6 @@
 
 #include "base/ansi.h"
 #include "catalog/image_catalog.h"
-#include "catalog/profile_files.h"
 
 namespace tarnwick {
 namespace {
@@ -46,7 +45,7 @@ void DrawCell(QPainter& painter, const QRect& area, const ImageRec& image, const
 bool DrawSheet(const fs::path& folder, const QString& target) {
   ImageCatalog catalog;
   // The Brakka module's catalog takes in the base game's.
-  LoadImages(catalog, ProfileFiles(), folder, true, "");
+  LoadImages(catalog, Disk(folder), true, "");
   const int rows = (catalog.TotImages.Value() + columns - 1) / columns;
   QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
   sheet.fill(Qt::white);

@@ -66,11 +66,11 @@ class Hurry : public Host {
 class Editor {
  public:
   Editor(const fs::path& folder, const Scenario& scenario)
-      : work_(folder), user_(work_, scenario.Loaded) {
-    Form_Load(work_);
+      : disk_(folder), user_(work_, scenario.Loaded) {
+    Form_Load(work_, disk_);
     TickOption(work_.Army.Management.modOption, scenario.Brakka ? 1 : 0);
-    modOption_Click(work_);
-    LoadBtn_Click(work_, user_);
+    modOption_Click(work_, disk_);
+    LoadBtn_Click(work_, disk_, user_);
     work_.Army.Management.ArmyFileName.Text = scenario.Saved;
     work_.Field.CurrentSetup = 1;
   }
@@ -81,13 +81,14 @@ class Editor {
     ArmyDesc_Change(work_.Header);
     work_.Field.AreaTerrain[4] = second ? "WOOD" : "CLEAR";
     work_.Field.Setup.description.Text = work_.Header.ArmyDesc.Text;
-    description_Change(work_.Field, work_.Army);
-    SaveArmy(work_, user_);
+    description_Change(work_.Field, work_.Army, disk_);
+    SaveArmy(work_, disk_, user_);
     return !user_.Complained();
   }
 
  private:
   WorkingArmy work_;
+  Disk disk_;
   Hurry user_;
 };
 

@@ -317,9 +317,10 @@ int main(int argc, char* argv[]) {
   fs::create_directories(out);
   fs::copy(argv[1], out / "program", fs::copy_options::recursive);
 
-  WorkingArmy work(out / "program");
+  WorkingArmy work;
+  Disk disk(out / "program");
   FormHost host;
-  Session session(work, host);
+  Session session(work, disk, host);
   host.Serve(session);
   MainForm form(session);
   if (!form.Start()) return 1;

@@ -47,12 +47,12 @@ Int16 VersionNumber(double major, double minor, double revision) {
 
 }  // namespace
 
-void FillArmyList(const ArmyState& state, ArmyListForm& form) {
+void FillArmyList(const ArmyState& state, const Disk& disk, ArmyListForm& form) {
   form.BaseName = "";
   form.ArmyList.Clear();
   std::vector<std::pair<std::string, std::string>> names;  // folded for sorting, as it is
   std::error_code error;
-  fs::directory_iterator file(ModuleFolder(state), error);
+  fs::directory_iterator file(disk.ModuleFolder(state.BrakkaMode), error);
   for (; file != fs::directory_iterator(); file.increment(error)) {
     if (!file->path().native().ends_with(ending) || !FileExists(file->path())) continue;
     std::string name = AnsiFromPath(file->path().filename());
@@ -66,26 +66,27 @@ void FillArmyList(const ArmyState& state, ArmyListForm& form) {
     form.ArmyList.AddItem(name.second);
 }
 
-void ShowArmyDetail(const ArmyState& state, ArmyListForm& form) {
+void ShowArmyDetail(const ArmyState& state, const Disk& disk, ArmyListForm& form) {
   if (!form.ArmyList.HasSelection()) return;
   const std::string name = form.ArmyList.Text();
-  const fs::path file = PathIn(ModuleFolder(state), name + std::string(ending));
+  const fs::path file = PathIn(disk.ModuleFolder(state.BrakkaMode), name + std::string(ending));
   std::string& text = form.ArmyDetailLabel.Caption;
   text = "";
   for (const auto& [caption, section, key, number] : detailLines) {
-    const std::string value = state.Files.ReadIniString(section, key, file);
+    const std::string value = disk.Files.ReadIniString(section, key, file);
     text.append(NL).append(caption).append(number ? NumberText(LenientNumber(value)) : value);
   }
-  form.BaseName = state.Files.ReadIniString("ARMY", "base", file);
+  form.BaseName = disk.Files.ReadIniString("ARMY", "base", file);
   std::string required;
-  if (!CheckArmyVersion(state, name, required)) {
+  if (!CheckArmyVersion(state, disk, name, required)) {
     text.append(NL).append(NL).append("*** Required editor version: ").append(required);
   }
 }
 
-bool CheckArmyVersion(const ArmyState& state, const std::string& name, std::string& required) {
-  const fs::path file = PathIn(state.ProgramFolder, name + std::string(ending));
-  const std::string version = state.Files.ReadIniString("EDITOR", "version", file);
+bool CheckArmyVersion(const ArmyState& state, const Disk& disk, const std::string& name,
+                      std::string& required) {
+  const fs::path file = PathIn(disk.ProgramFolder, name + std::string(ending));
+  const std::string version = disk.Files.ReadIniString("EDITOR", "version", file);
   const auto field = [&version](int n) { return LenientNumber(GetField(version, n, ".")); };
   const Version& own = state.EditorVersion;
   const Int16 ownNumber = VersionNumber(own.Major.Value(), own.Minor.Value(), own.Revision.Value());
@@ -94,7 +95,7 @@ bool CheckArmyVersion(const ArmyState& state, const std::string& name, std::stri
   return false;
 }
 
-bool SelectArmy(WorkingArmy& work, Host& host, const ArmyListForm& form) {
+bool SelectArmy(WorkingArmy& work, const Disk& disk, Host& host, const ArmyListForm& form) {
   if (form.BaseName.empty()) {
     host.Message("This army has not been created whit this editor");
     return false;
@@ -104,7 +105,7 @@ bool SelectArmy(WorkingArmy& work, Host& host, const ArmyListForm& form) {
     return false;
   }
   std::string required;
-  if (!CheckArmyVersion(work.Army, form.ArmyList.Text(), required)) {
+  if (!CheckArmyVersion(work.Army, disk, form.ArmyList.Text(), required)) {
     host.Message("This army need version " + required + " or better");
     return false;
   }
@@ -112,17 +113,17 @@ bool SelectArmy(WorkingArmy& work, Host& host, const ArmyListForm& form) {
   return true;
 }
 
-void DelArmy_Click(const ArmyState& state, Host& host, ArmyListForm& form) {
+void DelArmy_Click(const ArmyState& state, const Disk& disk, Host& host, ArmyListForm& form) {
   if (!form.ArmyList.HasSelection()) return;
   const std::string name = form.ArmyList.Text();
   if (!host.Question("Do You really want to delete the army " + name + " ?")) return;
-  const fs::path file = PathIn(state.ProgramFolder, name + std::string(ending));
+  const fs::path file = PathIn(disk.ProgramFolder, name + std::string(ending));
   std::error_code error;
   if (!FileExists(file) || !fs::remove(file, error)) {
     if (!error) error = std::make_error_code(std::errc::no_such_file_or_directory);
     throw FileError("File " + AnsiFromPath(file) + " cannot be deleted: " + error.message());
   }
-  FillArmyList(state, form);
+  FillArmyList(state, disk, form);
 }
 
 }  // namespace tarnwick

@@ -18,20 +18,21 @@ struct ArmyListForm {
 };
 
 /// Lists the module's army files by name.
-void FillArmyList(const ArmyState& state, ArmyListForm& form);
+void FillArmyList(const ArmyState& state, const Disk& disk, ArmyListForm& form);
 
 /// Shows the summary of the selected file.
-void ShowArmyDetail(const ArmyState& state, ArmyListForm& form);
+void ShowArmyDetail(const ArmyState& state, const Disk& disk, ArmyListForm& form);
 
 /// Whether this editor can read the file. `required` takes the version of one that it can't.
 /// Always looks into the program folder, whatever the module. Throws OverflowError.
-bool CheckArmyVersion(const ArmyState& state, const std::string& name, std::string& required);
+bool CheckArmyVersion(const ArmyState& state, const Disk& disk, const std::string& name,
+                      std::string& required);
 
 /// The selected file becomes `ArmyFile` if it may be loaded. Returns whether the dialog closes.
-bool SelectArmy(WorkingArmy& work, Host& host, const ArmyListForm& form);
+bool SelectArmy(WorkingArmy& work, const Disk& disk, Host& host, const ArmyListForm& form);
 
 /// Deletes the selected file after a question. Deletes in the program folder, whatever the module.
 /// Throws FileError.
-void DelArmy_Click(const ArmyState& state, Host& host, ArmyListForm& form);
+void DelArmy_Click(const ArmyState& state, const Disk& disk, Host& host, ArmyListForm& form);
 
 }  // namespace tarnwick

@@ -24,31 +24,36 @@ namespace {
 /// Loads one army file.
 class ArmyLoader {
  public:
-  ArmyLoader(WorkingArmy& work, Host& host, std::filesystem::path file)
-      : work_(work), army_(work.Army), header_(work.Header), host_(host), file_(std::move(file)) {}
+  ArmyLoader(WorkingArmy& work, Disk& disk, Host& host, std::filesystem::path file)
+      : work_(work),
+        army_(work.Army),
+        header_(work.Header),
+        disk_(disk),
+        host_(host),
+        file_(std::move(file)) {}
 
   void Load() {
     ReadHeader();
     const bool complete = LoadCatalogs() && LoadUnits();
-    ShowSelectUnits(army_);  // what there is, when the loading ends here
+    ShowSelectUnits(army_, disk_);  // what there is, when the loading ends here
     if (!complete) return;
     army_.PointsLeft -= army_.PointsSpent;
     LoadLeader();
     LoadCards();
-    LoadTerrain(work_.Field, army_, file_);
+    LoadTerrain(work_.Field, army_, disk_.Files, file_);
     header_.ArmyDesc.Text = ReplaceText("@", CrLf, header_.ArmyDescription);
-    LoadSpecialRules(header_, army_.Files, file_);
+    LoadSpecialRules(header_, disk_.Files, file_);
     ShowPoints(army_);
     TakeArmyType(header_, Read("ARMY", "type"));
     ShowPeriod(header_);
     // Setups are kept in the program folder whatever the module.
-    LoadSetupsFromArmy(work_.Field, army_, PathIn(army_.ProgramFolder, header_.ArmyFile + ".army"));
+    LoadSetupsFromArmy(work_.Field, disk_, PathIn(disk_.ProgramFolder, header_.ArmyFile + ".army"));
     ShowPanel(army_, Panel::Units);
   }
 
  private:
   std::string Read(std::string_view section, std::string_view key) const {
-    return army_.Files.ReadIniString(section, key, file_);
+    return disk_.Files.ReadIniString(section, key, file_);
   }
 
   void ReadHeader() {
@@ -62,13 +67,13 @@ class ArmyLoader {
   }
 
   bool LoadCatalogs() {
-    LoadBaseArmy(army_, host_);
+    LoadBaseArmy(army_, disk_, host_);
     if (army_.TotUnits == 0) {
       host_.Message("The army type [" + army_.BaseArmyName + "] is not present in armylist.dat" +
                     std::string(CrLf) + "This army cannot be edited");
       return false;
     }
-    ReadImageCatalog(work_);
+    ReadImageCatalog(work_, disk_);
     return true;
   }
 
@@ -94,7 +99,8 @@ class ArmyLoader {
     ++unit.Bought;
     army_.PointsSpent += unit.Cost;
     // The class is asked about here, not the type, deliberately.
-    ++(MountedKind(army_, unit.UnitClass, row) == mounted ? army_.MountedUnits : army_.FootUnits);
+    ++(MountedKind(army_, disk_, unit.UnitClass, row) == mounted ? army_.MountedUnits
+                                                                 : army_.FootUnits);
     const std::string picture = GetField(line, 6);
     const Int16 image = FindImage(picture);
     if (image == 0) {
@@ -182,24 +188,26 @@ class ArmyLoader {
   WorkingArmy& work_;
   ArmyState& army_;
   ArmyHeader& header_;
+  Disk& disk_;
   Host& host_;
   std::filesystem::path file_;
 };
 
 }  // namespace
 
-void LoadBtn_Click(WorkingArmy& work, Host& host) {
-  ResetArmyData(work);
+void LoadBtn_Click(WorkingArmy& work, Disk& disk, Host& host) {
+  ResetArmyData(work, disk);
   TakeModule(work.Army);
-  LoadArmy(work, host);
+  LoadArmy(work, disk, host);
 }
 
-void LoadArmy(WorkingArmy& work, Host& host) {
+void LoadArmy(WorkingArmy& work, Disk& disk, Host& host) {
   host.ShowArmyListForm();
   const std::string& name = work.Header.ArmyFile;
   if (name.empty()) return;
   work.Army.Management.ArmyFileName.Text = name;
-  ArmyLoader(work, host, PathIn(ModuleFolder(work.Army), name + ".army")).Load();
+  ArmyLoader(work, disk, host, PathIn(disk.ModuleFolder(work.Army.BrakkaMode), name + ".army"))
+      .Load();
 }
 
 }  // namespace tarnwick

@@ -19,7 +19,7 @@ void EmptyGrid(UnitsPanel& grid) {
 
 }  // namespace
 
-void ResetArmyData(WorkingArmy& work) {
+void ResetArmyData(WorkingArmy& work, const Disk& disk) {
   ArmyState& army = work.Army;
   army.GridFilling = true;
   army.SetupLoading = true;
@@ -32,8 +32,8 @@ void ResetArmyData(WorkingArmy& work) {
     army.Command.SpecBuy[j].Tag = "0";
     army.Command.SpecBuy[j].Text = "";
   }
-  const auto read = [&army](std::string_view key) {
-    return army.Files.ReadIniNumber(army.BaseArmyName, key, army.ArmyListFile);
+  const auto read = [&](std::string_view key) {
+    return disk.Files.ReadIniNumber(army.BaseArmyName, key, army.ArmyListFile);
   };
   army.PointsLeft = read("points");
   army.PointsSpent = 0;
@@ -47,8 +47,8 @@ void ResetArmyData(WorkingArmy& work) {
   ClearAreas(work.Field);
 }
 
-void ResetArmy_Click(WorkingArmy& work) {
-  ResetArmyData(work);
+void ResetArmy_Click(WorkingArmy& work, const Disk& disk) {
+  ResetArmyData(work, disk);
 }
 
 }  // namespace tarnwick

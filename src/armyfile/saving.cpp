@@ -122,11 +122,11 @@ std::string ArmyText(const WorkingArmy& work, const std::string& today,
 
 }  // namespace
 
-void SaveArmy(WorkingArmy& work, Host& host) {
-  ArmyState& army = work.Army;
+void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
+  const ArmyState& army = work.Army;
   const std::string& name = army.Management.ArmyFileName.Text;
   const std::string fileName = name + ".army";
-  const auto path = PathIn(ModuleFolder(army), fileName);
+  const auto path = PathIn(disk.ModuleFolder(army.BrakkaMode), fileName);
   if (!VerifyArmy(army, host, false)) return;
   if (FileExists(path) &&
       !host.Question("Do you want to replace the existing " + name + ".army file ?")) {
@@ -135,10 +135,10 @@ void SaveArmy(WorkingArmy& work, Host& host) {
   PendingFiles files;
   files.Write(path, ArmyText(work, host.Today(), path));
   // Terrain goes to the program folder whatever the module.
-  SaveTerrain(work.Field, files, PathIn(army.ProgramFolder, fileName));
+  SaveTerrain(work.Field, files, PathIn(disk.ProgramFolder, fileName));
   // Setups go with the name that the army was loaded under.
-  CopySetupsToArmy(army, files, PathIn(army.ProgramFolder, work.Header.ArmyFile + ".army"));
-  files.Replace(army.Files);
+  CopySetupsToArmy(disk, files, PathIn(disk.ProgramFolder, work.Header.ArmyFile + ".army"));
+  files.Replace(disk.Files);
   host.Message("Army Saved");
 }
 

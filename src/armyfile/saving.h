@@ -11,6 +11,6 @@ namespace tarnwick {
 /// agrees to replace a file that is there. The file is replaced in one step, with terrain and
 /// setups. Throws FileError when it can't be written; the file then stays as it was. An
 /// OverflowError or SubscriptError on the way leaves a file that ends where it happened.
-void SaveArmy(WorkingArmy& work, Host& host);
+void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host);
 
 }  // namespace tarnwick

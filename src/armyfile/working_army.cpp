@@ -12,32 +12,32 @@ void TakeModule(ArmyState& army) {
   army.BrakkaMode = army.Management.modOption[1].Value;
 }
 
-void ReadImageCatalog(WorkingArmy& work) {
+void ReadImageCatalog(WorkingArmy& work, const Disk& disk) {
   ArmyState& army = work.Army;
-  LoadImages(army.Catalog, army.Files, army.ProgramFolder, army.BrakkaMode, work.Header.ArmyFile);
+  LoadImages(army.Catalog, disk, army.BrakkaMode, work.Header.ArmyFile);
 }
 
-void Form_Load(WorkingArmy& work) {
+void Form_Load(WorkingArmy& work, const Disk& disk) {
   ArmyState& army = work.Army;
   army.FormReady = false;
   army.SpecRowsLoaded = false;
-  InitializeVariables(army);
+  InitializeVariables(army, disk);
   InitTerrainKinds(work.Field);
   ShowPanel(army, Panel::Management);
-  ReadImageCatalog(work);
+  ReadImageCatalog(work, disk);
   army.FormReady = true;
   army.Title = "Velmora Tarnwick ver. " + VersionText(army.EditorVersion);
 }
 
-void modOption_Click(WorkingArmy& work) {
+void modOption_Click(WorkingArmy& work, const Disk& disk) {
   ArmyState& army = work.Army;
   TakeModule(army);
-  army.ArmyListFile = ModuleFolder(army) / "armylist.dat";
+  army.ArmyListFile = disk.ModuleFolder(army.BrakkaMode) / "armylist.dat";
   work.Header.HistoricTab.Visible = !army.BrakkaMode;
-  ReadImageCatalog(work);
+  ReadImageCatalog(work, disk);
 }
 
-void NewArmyBtn_Click(WorkingArmy& work, Host& host) {
+void NewArmyBtn_Click(WorkingArmy& work, const Disk& disk, Host& host) {
   ArmyState& army = work.Army;
   host.ShowArmySelectionForm();
   army.Management.ArmyName.Text = "";
@@ -48,8 +48,8 @@ void NewArmyBtn_Click(WorkingArmy& work, Host& host) {
   work.Header.TYPE_IsFantasy.Value = army.BrakkaMode;
   ClearAreas(work.Field);
   ClearSpecialRules(work.Header);
-  LoadBaseArmy(army, host);
-  ShowSelectUnits(army);
+  LoadBaseArmy(army, disk, host);
+  ShowSelectUnits(army, disk);
 }
 
 }  // namespace tarnwick

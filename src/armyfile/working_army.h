@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
-
 #include "armyfile/army_header.h"
 #include "base/host.h"
 #include "battlefield/battlefield.h"
@@ -13,9 +11,6 @@ namespace tarnwick {
 
 /// The one working army with its battlefield and its header.
 struct WorkingArmy {
-  /// `programFolder` holds the catalogs and the army files.
-  explicit WorkingArmy(std::filesystem::path programFolder) : Army(std::move(programFolder)) {}
-
   ArmyState Army;
   Battlefield Field;
   ArmyHeader Header;
@@ -26,16 +21,16 @@ void TakeModule(ArmyState& army);
 
 /// Reads the module's image catalog and the one that the army file names. Throws SubscriptError
 /// when they have more than 200 rows.
-void ReadImageCatalog(WorkingArmy& work);
+void ReadImageCatalog(WorkingArmy& work, const Disk& disk);
 
 /// Start-up: prepares the state, puts the "Army Managemet" panel in front and reads the image
 /// catalog. Throws SubscriptError when that has more than 200 rows.
-void Form_Load(WorkingArmy& work);
+void Form_Load(WorkingArmy& work, const Disk& disk);
 
 /// A module was chosen. The army on screen stays; later catalog reads use the new module's files.
-void modOption_Click(WorkingArmy& work);
+void modOption_Click(WorkingArmy& work, const Disk& disk);
 
 /// A new army of the base army that the user chooses.
-void NewArmyBtn_Click(WorkingArmy& work, Host& host);
+void NewArmyBtn_Click(WorkingArmy& work, const Disk& disk, Host& host);
 
 }  // namespace tarnwick

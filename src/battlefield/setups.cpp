@@ -25,8 +25,8 @@ constexpr int places = 9;
 /// How a line break of a description is stored.
 constexpr std::string_view storedLineBreak = "\\n";
 
-fs::path ScratchFile(const ArmyState& state) {
-  return state.ProgramFolder / "working.setup";
+fs::path ScratchFile(const Disk& disk) {
+  return disk.ProgramFolder / "working.setup";
 }
 
 std::string SectionOf(Int16 number) {
@@ -60,8 +60,8 @@ std::string DeployText(const UnitRec& unit) {
 
 }  // namespace
 
-void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const fs::path& army) {
-  const fs::path scratch = ScratchFile(state);
+void LoadSetupsFromArmy(Battlefield& field, Disk& disk, const fs::path& army) {
+  const fs::path scratch = ScratchFile(disk);
   if (FileExists(scratch)) {
     std::error_code error;
     if (!fs::remove(scratch, error)) {
@@ -69,24 +69,24 @@ void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const fs::path& ar
     }
   }
   field.Setup.setupList.Clear();
-  const auto entries = StoredSetups(state.Files, army);
+  const auto entries = StoredSetups(disk.Files, army);
   for (const auto& entry : entries) {
     if (entry.Key == "description") {
       field.Setup.setupList.AddItem(GetField(entry.Section, 2, " "));
     }
   }
-  if (!entries.empty()) state.Files.WriteIniStrings(entries, scratch);
+  if (!entries.empty()) disk.Files.WriteIniStrings(entries, scratch);
 }
 
-void CopySetupsToArmy(const ArmyState& state, PendingFiles& files, const fs::path& army) {
-  const auto entries = StoredSetups(state.Files, ScratchFile(state));
+void CopySetupsToArmy(const Disk& disk, PendingFiles& files, const fs::path& army) {
+  const auto entries = StoredSetups(disk.Files, ScratchFile(disk));
   if (!entries.empty()) files.WriteIniStrings(entries, army);
 }
 
-void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number) {
+void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number) {
   SetupPanel& panel = field.Setup;
   const auto read = [&](const std::string& key) {
-    return state.Files.ReadIniString(SectionOf(number), key, ScratchFile(state));
+    return disk.Files.ReadIniString(SectionOf(number), key, ScratchFile(disk));
   };
   panel.description.Text = ReplaceText(storedLineBreak, CrLf, Trim(read("description")));
   for (Int16 i = 0; i < places; ++i)
@@ -95,7 +95,7 @@ void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number) {
   FillDeployList(field, state);
 }
 
-void SaveSetup(const Battlefield& field, ArmyState& state) {
+void SaveSetup(const Battlefield& field, const ArmyState& state, Disk& disk) {
   std::string text = ReplaceText(CrLf, storedLineBreak, Trim(field.Setup.description.Text));
   // A setup without a description would not exist.
   if (text.empty()) text = "<new setup>";
@@ -105,7 +105,7 @@ void SaveSetup(const Battlefield& field, ArmyState& state) {
   for (Int16 i = 0; i < places; ++i) {
     entries.push_back({section, RowKey("field", i + 1), field.Setup.unit[i].Caption});
   }
-  state.Files.WriteIniStrings(entries, ScratchFile(state));
+  disk.Files.WriteIniStrings(entries, ScratchFile(disk));
 }
 
 void FillDeployList(Battlefield& field, const ArmyState& state) {
@@ -121,17 +121,17 @@ void FillDeployList(Battlefield& field, const ArmyState& state) {
   }
 }
 
-void setupList_Click(Battlefield& field, const ArmyState& state) {
+void setupList_Click(Battlefield& field, const ArmyState& state, const Disk& disk) {
   if (!field.Setup.setupList.HasSelection()) return;
   field.CurrentSetup = LenientInt16(field.Setup.setupList.Text());
-  LoadSetup(field, state, field.CurrentSetup);
+  LoadSetup(field, state, disk, field.CurrentSetup);
 }
 
-void description_Change(const Battlefield& field, ArmyState& state) {
-  SaveSetup(field, state);
+void description_Change(const Battlefield& field, const ArmyState& state, Disk& disk) {
+  SaveSetup(field, state, disk);
 }
 
-void Command6_Click(Battlefield& field, ArmyState& state) {
+void Command6_Click(Battlefield& field, const ArmyState& state, Disk& disk) {
   SetupPanel& panel = field.Setup;
   Int16 next;
   for (const ListEntry& entry : panel.setupList.Entries) {
@@ -144,7 +144,7 @@ void Command6_Click(Battlefield& field, ArmyState& state) {
   panel.setupList.ListIndex = static_cast<int>(panel.setupList.Entries.size()) - 1;
   panel.setupFramePanel.Visible = true;
   panel.description.Text = "New setup";
-  description_Change(field, state);
+  description_Change(field, state, disk);
   for (Label& place : panel.unit)
     place.Caption = "";
   FillDeployList(field, state);
@@ -154,7 +154,8 @@ void Command3_Click(ArmyState& state) {
   ShowPanel(state, Panel::MonsterLaboratory);
 }
 
-void assignBtn_Click(Battlefield& field, ArmyState& state, Host& host, Int16 place) {
+void assignBtn_Click(Battlefield& field, const ArmyState& state, Disk& disk, Host& host,
+                     Int16 place) {
   ListBox& list = field.Setup.unitList;
   std::string& unit = field.Setup.unit[place].Caption;
   if (list.HasSelection()) {
@@ -170,7 +171,7 @@ void assignBtn_Click(Battlefield& field, ArmyState& state, Host& host, Int16 pla
   } else {
     host.Message("Please select a unit");
   }
-  SaveSetup(field, state);
+  SaveSetup(field, state, disk);
 }
 
 void ShowSetup_Click(Battlefield& field, ArmyState& state) {

@@ -17,39 +17,39 @@ namespace tarnwick {
 
 /// Rebuilds scratch file and setup list from the army file `army`. Throws FileError when the old
 /// scratch file can't be deleted.
-void LoadSetupsFromArmy(Battlefield& field, ArmyState& state, const std::filesystem::path& army);
+void LoadSetupsFromArmy(Battlefield& field, Disk& disk, const std::filesystem::path& army);
 
 /// Copies the setups that have a description into the army file `army`; without any it is left
 /// alone.
-void CopySetupsToArmy(const ArmyState& state, PendingFiles& files,
-                      const std::filesystem::path& army);
+void CopySetupsToArmy(const Disk& disk, PendingFiles& files, const std::filesystem::path& army);
 
 /// Shows setup `number` as the scratch file has it. Nothing is written.
-void LoadSetup(Battlefield& field, const ArmyState& state, Int16 number);
+void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number);
 
 /// Writes what the panel shows to the section of the current setup, unless `SetupLoading` is set.
 /// A failed write is silent.
-void SaveSetup(const Battlefield& field, ArmyState& state);
+void SaveSetup(const Battlefield& field, const ArmyState& state, Disk& disk);
 
 /// Lists the units that no place holds: rows 1 to `NumUnits` of `BaseUnits`, each once.
 void FillDeployList(Battlefield& field, const ArmyState& state);
 
 /// An entry of the setup list was chosen.
-void setupList_Click(Battlefield& field, const ArmyState& state);
+void setupList_Click(Battlefield& field, const ArmyState& state, const Disk& disk);
 
 /// The description was changed.
-void description_Change(const Battlefield& field, ArmyState& state);
+void description_Change(const Battlefield& field, const ArmyState& state, Disk& disk);
 
 /// "New Setup": the next number, first written with the places of the setup shown before it; the
 /// emptied places reach the file with the next edit.
-void Command6_Click(Battlefield& field, ArmyState& state);
+void Command6_Click(Battlefield& field, const ArmyState& state, Disk& disk);
 
 /// "Delete Setup": deletes nothing but shows the monster laboratory.
 void Command3_Click(ArmyState& state);
 
 /// "<->" of place `place`: deploys the selected unit there, exchanging it for the one that holds
 /// the place, or without a selection withdraws that one.
-void assignBtn_Click(Battlefield& field, ArmyState& state, Host& host, Int16 place);
+void assignBtn_Click(Battlefield& field, const ArmyState& state, Disk& disk, Host& host,
+                     Int16 place);
 
 /// Shows the setup panel, with no setup on it until one is chosen.
 void ShowSetup_Click(Battlefield& field, ArmyState& state);

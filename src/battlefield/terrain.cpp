@@ -57,9 +57,10 @@ void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::files
   files.WriteIniStrings(areas, army);
 }
 
-void LoadTerrain(Battlefield& field, ArmyState& state, const std::filesystem::path& army) {
+void LoadTerrain(Battlefield& field, ArmyState& state, const ProfileFiles& files,
+                 const std::filesystem::path& army) {
   for (Int16 n = 1; n <= 9; ++n) {
-    const std::string name = state.Files.ReadIniString("TERRAIN", RowKey("area", n), army);
+    const std::string name = files.ReadIniString("TERRAIN", RowKey("area", n), army);
     std::string& area = field.AreaTerrain[n - 1];
     area = name.empty() ? clear : name;
     Charge(state, field.TerrainKinds[TerrainIndex(field, area)]);

@@ -27,7 +27,8 @@ void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::files
 
 /// Reads the nine areas of an army file and charges their prices, even below 0. A missing area is
 /// clear; a name that is no kind throws SubscriptError after it was stored.
-void LoadTerrain(Battlefield& field, ArmyState& state, const std::filesystem::path& army);
+void LoadTerrain(Battlefield& field, ArmyState& state, const ProfileFiles& files,
+                 const std::filesystem::path& army);
 
 /// Shows the free points on the terrain panel.
 void ShowTerrainPoints(Battlefield& field, const ArmyState& state);

@@ -24,18 +24,17 @@ ImageRec ParseImageRow(std::string_view row) {
   return {GetField(row, 1), GetField(row, 2), GetField(row, 3), GetField(row, 4), GetField(row, 5)};
 }
 
-void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
-                const std::filesystem::path& programFolder, bool brakkaMode,
+void LoadImages(ImageCatalog& catalog, const Disk& disk, bool brakkaMode,
                 std::string_view armyFile) {
   catalog.TotImages = 0;
-  AppendImages(catalog, files,
-               programFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));
+  AppendImages(catalog, disk.Files,
+               disk.ProgramFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));
 
   // The army file is looked for in the program folder whatever the module.
-  std::string further =
-      files.ReadIniString("ARMY", "images", PathIn(programFolder, std::string(armyFile) + ".army"));
+  std::string further = disk.Files.ReadIniString(
+      "ARMY", "images", PathIn(disk.ProgramFolder, std::string(armyFile) + ".army"));
   if (further.empty() && brakkaMode) further = "images.dat";
-  if (!further.empty()) AppendImages(catalog, files, PathIn(programFolder, further));
+  if (!further.empty()) AppendImages(catalog, disk.Files, PathIn(disk.ProgramFolder, further));
 }
 
 }  // namespace tarnwick

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "base/int16.h"
 #include "base/table.h"
-#include "catalog/profile_files.h"
+#include "catalog/disk.h"
 
 namespace tarnwick {
 
@@ -31,8 +30,7 @@ ImageRec ParseImageRow(std::string_view row);
 /// Rebuilds the catalog: the module's rows, then those of the catalog that the army file
 /// `armyFile` (its name, or "") names; in the Brakka module the base game's when it names none.
 /// Missing files give no rows. More than 200 rows throw SubscriptError.
-void LoadImages(ImageCatalog& catalog, const ProfileFiles& files,
-                const std::filesystem::path& programFolder, bool brakkaMode,
+void LoadImages(ImageCatalog& catalog, const Disk& disk, bool brakkaMode,
                 std::string_view armyFile);
 
 }  // namespace tarnwick

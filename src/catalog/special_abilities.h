@@ -6,15 +6,15 @@
 #include <string>
 #include <string_view>
 
-#include "catalog/profile_files.h"
+#include "catalog/disk.h"
 
 namespace tarnwick {
 
 /// The catalog of special abilities, which both modules share.
 class SpecialAbilities {
  public:
-  SpecialAbilities(const ProfileFiles& files, const std::filesystem::path& programFolder)
-      : files_(files), file_(programFolder / "specials.dat") {}
+  explicit SpecialAbilities(const Disk& disk)
+      : files_(disk.Files), file_(disk.ProgramFolder / "specials.dat") {}
 
   /// Whether the group `group`, a unit row's specials field, holds `code`, case and all. Ten codes
   /// are looked at; an empty one ends the list.

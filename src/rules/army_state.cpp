@@ -11,8 +11,8 @@ std::string VersionText(const Version& version) {
          NumberText(version.Revision);
 }
 
-void InitializeVariables(ArmyState& state) {
-  state.ArmyListFile = state.ProgramFolder / "armylist.dat";
+void InitializeVariables(ArmyState& state, const Disk& disk) {
+  state.ArmyListFile = disk.ProgramFolder / "armylist.dat";
 
   for (int k = 0; k <= 22; ++k)
     ShowGridLine(state.Units, k, false);
@@ -68,10 +68,6 @@ void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
 
 void ShowPanel(ArmyState& state, Panel panel) {
   state.EditFrame.Front = static_cast<int>(panel);
-}
-
-std::filesystem::path ModuleFolder(const ArmyState& state) {
-  return state.BrakkaMode ? state.ProgramFolder / "brakka" : state.ProgramFolder;
 }
 
 }  // namespace tarnwick

@@ -9,8 +9,8 @@
 #include "base/int16.h"
 #include "base/table.h"
 #include "catalog/base_army.h"
+#include "catalog/disk.h"
 #include "catalog/image_catalog.h"
-#include "catalog/profile_files.h"
 
 namespace tarnwick {
 
@@ -69,12 +69,7 @@ struct MonsterPanel {
 /// The working army: what the catalog says of its base army, what the player bought, and what
 /// the controls show.
 struct ArmyState {
-  explicit ArmyState(std::filesystem::path programFolder)
-      : ProgramFolder(std::move(programFolder)) {}
-
-  std::filesystem::path ProgramFolder;
   Version EditorVersion;
-  ProfileFiles Files;
 
   std::filesystem::path ArmyListFile;
   bool BrakkaMode = false;
@@ -112,7 +107,7 @@ struct ArmyState {
 
 /// What the window's design holds before anything is loaded: the module's paths, captions, and
 /// the repeated rows, which stay hidden until an army fills them.
-void InitializeVariables(ArmyState& state);
+void InitializeVariables(ArmyState& state, const Disk& disk);
 
 /// Shows or hides the twelve controls of a grid line.
 void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
@@ -125,9 +120,6 @@ void ShowPanel(ArmyState& state, Panel panel);
 
 /// Resets the lists of the monster laboratory.
 void NewMonster(MonsterPanel& panel);
-
-/// The module's own folder: the program folder, or "brakka" in it.
-std::filesystem::path ModuleFolder(const ArmyState& state);
 
 /// Ticks one option of a group and unticks the others.
 template <int Last>

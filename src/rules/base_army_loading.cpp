@@ -14,17 +14,17 @@
 namespace tarnwick {
 namespace {
 
-std::string ReadKey(const ArmyState& state, std::string_view key) {
-  return state.Files.ReadIniString(state.BaseArmyName, key, state.ArmyListFile);
+std::string ReadKey(const ArmyState& state, const Disk& disk, std::string_view key) {
+  return disk.Files.ReadIniString(state.BaseArmyName, key, state.ArmyListFile);
 }
 
-Int16 ReadNumber(const ArmyState& state, std::string_view key) {
-  return LenientInt16(ReadKey(state, key));
+Int16 ReadNumber(const ArmyState& state, const Disk& disk, std::string_view key) {
+  return LenientInt16(ReadKey(state, disk, key));
 }
 
 /// How many rows there are of a kind; a negative number says that there are none.
-Int16 ReadCount(const ArmyState& state, std::string_view key) {
-  return std::max(ReadNumber(state, key), Int16(0));
+Int16 ReadCount(const ArmyState& state, const Disk& disk, std::string_view key) {
+  return std::max(ReadNumber(state, disk, key), Int16(0));
 }
 
 /// No row of the army before is offered, or was paid for, under the name of this one, wherever its
@@ -40,10 +40,10 @@ void ForgetRows(ArmyState& state) {
   }
 }
 
-void LoadUnits(ArmyState& state, Host& host, Int16 count) {
+void LoadUnits(ArmyState& state, const Disk& disk, Host& host, Int16 count) {
   state.TotUnits = std::min(count, Int16(0));  // a negative number stays what it is
   for (Int16 i = 1; i <= count; ++i) {
-    const std::string row = ReadKey(state, RowKey("unit", i));
+    const std::string row = ReadKey(state, disk, RowKey("unit", i));
     if (row.empty()) {
       host.Message("Army unit " + NumberText(i) + " not found");
       state.TotUnits = 0;
@@ -81,13 +81,13 @@ void ShowCardRow(CommandPanel& panel, Int16 j, bool named) {
 }
 
 /// A missing row is reported; the leaders before it stay.
-void LoadLeaders(ArmyState& state, Host& host) {
+void LoadLeaders(ArmyState& state, const Disk& disk, Host& host) {
   state.SelectedLeader = -1;
   TickOption(state.Command.LeaderName, -1);
-  state.LeaderCount = ReadCount(state, "tot_leader");
+  state.LeaderCount = ReadCount(state, disk, "tot_leader");
   state.Command.LeaderName[0].Visible = true;
   for (Int16 i = 0; i < state.LeaderCount; ++i) {
-    const std::string row = ReadKey(state, RowKey("leader", i + 1));
+    const std::string row = ReadKey(state, disk, RowKey("leader", i + 1));
     if (row.empty()) {
       host.Message("Leader # " + NumberText(i + 1) + " not present");
       break;
@@ -99,26 +99,26 @@ void LoadLeaders(ArmyState& state, Host& host) {
     state.Command.LeaderName[i].Visible = false;
 }
 
-void LoadLimits(ArmyState& state) {
-  const Int16 count = ReadCount(state, "tot_limits");
+void LoadLimits(ArmyState& state, const Disk& disk) {
+  const Int16 count = ReadCount(state, disk, "tot_limits");
   for (Int16 i = 1; i <= count; ++i) {
-    const std::string row = ReadKey(state, RowKey("limit", i));
+    const std::string row = ReadKey(state, disk, RowKey("limit", i));
     state.Limits[i] = ParseLimitRow(row);
     ShowLimit(state, i, GetField(row, 1));
     state.TotLimits = i;
   }
 }
 
-void LoadSpecials(ArmyState& state) {
+void LoadSpecials(ArmyState& state, const Disk& disk) {
   CommandPanel& panel = state.Command;
-  state.TotSpecial = ReadCount(state, "tot_special");
+  state.TotSpecial = ReadCount(state, disk, "tot_special");
   for (Int16 i = 1; i <= state.TotSpecial; ++i) {
     const Int16 j = i - 1;
     if (!state.SpecRowsLoaded || !panel.SpecBuy.Has(j)) {
       LoadCardRow(panel, j);
       ShowCardRow(panel, j, true);
     }
-    const CardRow card = ParseCardRow(ReadKey(state, RowKey("special", i)));
+    const CardRow card = ParseCardRow(ReadKey(state, disk, RowKey("special", i)));
     panel.SpecBuy[j].Text = "";
     panel.SpecBuy[j].Tag = "0";
     panel.SpecNameLabel[j].Caption = card.Name;
@@ -136,21 +136,21 @@ void LoadSpecials(ArmyState& state) {
 
 }  // namespace
 
-void LoadBaseArmy(ArmyState& state, Host& host) {
+void LoadBaseArmy(ArmyState& state, const Disk& disk, Host& host) {
   try {
     if (state.Management.ArmyName.Text.empty()) {
       state.Management.ArmyName.Text = state.BaseArmyName;
     }
     ForgetRows(state);
-    LoadLeaders(state, host);
-    LoadLimits(state);
-    LoadSpecials(state);
-    const Int16 unitCount = ReadNumber(state, "tot_units");
-    state.PointsLeft = ReadNumber(state, "points");
+    LoadLeaders(state, disk, host);
+    LoadLimits(state, disk);
+    LoadSpecials(state, disk);
+    const Int16 unitCount = ReadNumber(state, disk, "tot_units");
+    state.PointsLeft = ReadNumber(state, disk, "points");
     state.ArmyPoints = state.PointsLeft;
-    state.CommandPts = ReadNumber(state, "command_pts");
+    state.CommandPts = ReadNumber(state, disk, "command_pts");
     ShowPoints(state);
-    LoadUnits(state, host, unitCount);
+    LoadUnits(state, disk, host, unitCount);
   } catch (const RuntimeError&) {
     // An army that breaks the catalog's rules is offered as far as it could be read.
   }

@@ -11,6 +11,6 @@ namespace tarnwick {
 /// unit row is reported; without a unit row the army has no units. A row that breaks the catalog's
 /// rules, or is one more than the state or the window has room for, ends the loading silently:
 /// `TotUnits` and `TotLimits` are then the rows that were read before it.
-void LoadBaseArmy(ArmyState& state, Host& host);
+void LoadBaseArmy(ArmyState& state, const Disk& disk, Host& host);
 
 }  // namespace tarnwick

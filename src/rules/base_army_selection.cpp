@@ -4,12 +4,12 @@
 
 namespace tarnwick {
 
-void FillArmySelection(ArmyState& state, ArmySelectionForm& form) {
+void FillArmySelection(ArmyState& state, const Disk& disk, ArmySelectionForm& form) {
   form.ArmyList.Clear();
-  const Int16 total = state.Files.ReadIniNumber("Armies", "total", state.ArmyListFile);
+  const Int16 total = disk.Files.ReadIniNumber("Armies", "total", state.ArmyListFile);
   for (Int16 i = 1; i <= total; ++i) {
     form.ArmyList.AddItem(
-        state.Files.ReadIniString("Armies", RowKey("name", i), state.ArmyListFile));
+        disk.Files.ReadIniString("Armies", RowKey("name", i), state.ArmyListFile));
   }
   state.BaseArmyName = "";
 }

@@ -15,7 +15,7 @@ struct ArmySelectionForm {
 
 /// Opens the dialog: lists the armies of the module's catalog in its order and forgets the choice
 /// made before.
-void FillArmySelection(ArmyState& state, ArmySelectionForm& form);
+void FillArmySelection(ArmyState& state, const Disk& disk, ArmySelectionForm& form);
 
 /// The selected army becomes `BaseArmyName`. Returns whether the dialog closes; without a selected
 /// name the user is asked for one.

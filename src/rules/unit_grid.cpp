@@ -18,11 +18,11 @@ namespace {
 constexpr int black = 0, lightBlue = 9;
 constexpr int lines = UnitsPanel::Column<Label>::Last + 1;
 
-bool InView(const ArmyState& state, Int16 row) {
+bool InView(const ArmyState& state, const Disk& disk, Int16 row) {
   const UnitRec& unit = state.BaseUnits[row];
   const auto& view = state.Units.ViewOption;
-  if (view[0].Value) return MountedKind(state, unit.UnitType, row) != mounted;
-  if (view[1].Value) return MountedKind(state, unit.UnitType, row) == mounted;
+  if (view[0].Value) return MountedKind(state, disk, unit.UnitType, row) != mounted;
+  if (view[1].Value) return MountedKind(state, disk, unit.UnitType, row) == mounted;
   return unit.Bought > 0;
 }
 
@@ -40,7 +40,7 @@ auto CatalogTexts(const UnitRec& unit) {
        {&UnitsPanel::specLabel, unit.SpecialsKey.empty() ? "" : "(+)"}});
 }
 
-void FillLine(ArmyState& state, Int16 k, Int16 row) {
+void FillLine(ArmyState& state, const Disk& disk, Int16 k, Int16 row) {
   const UnitRec& unit = state.BaseUnits[row];
   UnitsPanel& grid = state.Units;
   ShowGridLine(grid, k, true);
@@ -48,7 +48,7 @@ void FillLine(ArmyState& state, Int16 k, Int16 row) {
   for (const auto& [column, text] : CatalogTexts(unit))
     (grid.*column)[k].Caption = text;
   grid.TypeLabel[k].ForeColor =
-      MountedKind(state, unit.UnitType, row) == mounted ? lightBlue : black;
+      MountedKind(state, disk, unit.UnitType, row) == mounted ? lightBlue : black;
   grid.Buy[k].Text = unit.Bought < 1 ? "" : NumberText(unit.Bought);
   grid.UnitTotalLabel[k].Caption = NumberText(unit.Bought * unit.Cost);
   ShowUnitImages(state, k, row);
@@ -56,12 +56,12 @@ void FillLine(ArmyState& state, Int16 k, Int16 row) {
 
 }  // namespace
 
-void ShowSelectUnits(ArmyState& state) {
+void ShowSelectUnits(ArmyState& state, const Disk& disk) {
   state.GridFilling = true;
   Int16 n;
   for (Int16 r = 1; r <= state.TotUnits && n < lines; ++r) {
-    if (!InView(state, r)) continue;
-    FillLine(state, n, r);
+    if (!InView(state, disk, r)) continue;
+    FillLine(state, disk, n, r);
     ++n;
   }
   for (; n < lines; ++n)
@@ -70,7 +70,7 @@ void ShowSelectUnits(ArmyState& state) {
   ShowPoints(state);
 }
 
-void FindUnitsAgain(ArmyState& state) {
+void FindUnitsAgain(ArmyState& state, const Disk& disk) {
   Int16 row;
   for (Int16 k; k < lines && state.Units.Buy[k].Visible; ++k) {
     const auto shown = [&](const auto& text) {
@@ -80,7 +80,7 @@ void FindUnitsAgain(ArmyState& state) {
       if (++row > state.TotUnits) return;
     } while (!std::ranges::all_of(CatalogTexts(state.BaseUnits[row]), shown));
     const std::string typed = state.Units.Buy[k].Text;
-    FillLine(state, k, row);
+    FillLine(state, disk, k, row);
     state.Units.Buy[k].Text = typed;
   }
 }
@@ -106,8 +106,8 @@ void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
   state.SetupLoading = false;
 }
 
-void ViewOption_Click(ArmyState& state) {
-  ShowSelectUnits(state);
+void ViewOption_Click(ArmyState& state, const Disk& disk) {
+  ShowSelectUnits(state, disk);
 }
 
 void ImageName_Click(ArmyState& state, Int16 line) {
@@ -122,12 +122,12 @@ void ImageName_Click(ArmyState& state, Int16 line) {
   unit.ChosenImageIdx = list.Selected().ItemData;
 }
 
-void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line) {
+void ViewBtn_Click(const ArmyState& state, const Disk& disk, Host& host, Int16 line) {
   const ListBox& list = state.Units.ImageName[line];
   if (!list.HasSelection()) return;
   const std::string& picture = state.Catalog.Images[list.Selected().ItemData].Id;
-  auto path = PathIn(state.ProgramFolder, picture);
-  if (!FileExists(path) && state.BrakkaMode) path = PathIn(state.ProgramFolder / "brakka", picture);
+  auto path = PathIn(disk.ProgramFolder, picture);
+  if (!FileExists(path) && state.BrakkaMode) path = PathIn(disk.ProgramFolder / "brakka", picture);
   if (FileExists(path)) {
     host.ShowPicture(path);
   } else {
@@ -135,9 +135,9 @@ void ViewBtn_Click(const ArmyState& state, Host& host, Int16 line) {
   }
 }
 
-void specLabel_Click(ArmyState& state, Host& host, Int16 line) {
+void specLabel_Click(ArmyState& state, const Disk& disk, Host& host, Int16 line) {
   const std::string& tag = state.Units.Buy[line].Tag;
-  if (tag.empty()) FindUnitsAgain(state);
+  if (tag.empty()) FindUnitsAgain(state, disk);
   if (tag.empty()) return;
   state.SpecUnitRow = StrictInt16(tag);
   if (!state.Units.specLabel[line].Caption.empty()) host.ShowSpecForm();

@@ -31,12 +31,12 @@ std::string MostAffordable(const ArmyState& state, Int16 paid, double unitCost) 
 
 }  // namespace
 
-bool BuyUnits(ArmyState& state, Host& host, Int16 index) {
+bool BuyUnits(ArmyState& state, const Disk& disk, Host& host, Int16 index) {
   if (state.GridFilling) return true;
   UnitsPanel& grid = state.Units;
   TextBox& box = grid.Buy[index];
   box.Text = Trim(box.Text);
-  if (box.Tag.empty()) FindUnitsAgain(state);
+  if (box.Tag.empty()) FindUnitsAgain(state, disk);
   if (box.Tag.empty()) return true;
   const Int16 row = StrictInt16(box.Tag);
   const double typed = LenientNumber(box.Text);
@@ -69,8 +69,8 @@ bool BuyUnits(ArmyState& state, Host& host, Int16 index) {
   return true;
 }
 
-bool Buy_Validate(ArmyState& state, Host& host, Int16 index) {
-  return !BuyUnits(state, host, index);
+bool Buy_Validate(ArmyState& state, const Disk& disk, Host& host, Int16 index) {
+  return !BuyUnits(state, disk, host, index);
 }
 
 }  // namespace tarnwick

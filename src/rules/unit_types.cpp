@@ -38,10 +38,6 @@ constexpr std::array<std::pair<std::string_view, int>, 18> typeCodes = {{
 constexpr std::array<std::string_view, 9> mountedTypes = {"HC", "RC", "BC", "LN", "EL",
                                                           "LC", "CH", "GC", "KB"};
 
-SpecialAbilities Abilities(const ArmyState& state) {
-  return {state.Files, state.ProgramFolder};
-}
-
 }  // namespace
 
 Int16 UnitTypeCode(std::string_view type, std::string_view unitClass) {
@@ -62,23 +58,23 @@ bool IsUnitType(std::string_view type) {
   return UnitTypeCode(type, "Vet") != 0 || type == "SM" || type == "LM";
 }
 
-Int16 MountedKind(const ArmyState& state, std::string_view type, Int16 row) {
+Int16 MountedKind(const ArmyState& state, const Disk& disk, std::string_view type, Int16 row) {
   if (type == "SK") return skirmishers;
   if (std::find(mountedTypes.begin(), mountedTypes.end(), type) != mountedTypes.end()) {
     return mounted;
   }
   const bool monster = type == "SM" || type == "LM";
-  return monster && row != -1 && UnitHasSpecial(state, row, "MOUNTED") ? mounted : foot;
+  return monster && row != -1 && UnitHasSpecial(state, disk, row, "MOUNTED") ? mounted : foot;
 }
 
-bool UnitHasSpecial(const ArmyState& state, Int16 row, std::string_view code) {
-  return Abilities(state).Has(state.BaseUnits[row].SpecialsKey, code);
+bool UnitHasSpecial(const ArmyState& state, const Disk& disk, Int16 row, std::string_view code) {
+  return SpecialAbilities(disk).Has(state.BaseUnits[row].SpecialsKey, code);
 }
 
-std::string SpecialAbilitiesText(const ArmyState& state) {
+std::string SpecialAbilitiesText(const ArmyState& state, const Disk& disk) {
   const UnitRec& unit = state.BaseUnits[state.SpecUnitRow];
   return std::string("Special abilities for the unit: ").append(unit.UnitType).append(CrLf) +
-         Abilities(state).Explain(unit.SpecialsKey);
+         SpecialAbilities(disk).Explain(unit.SpecialsKey);
 }
 
 }  // namespace tarnwick

@@ -21,13 +21,13 @@ inline constexpr int foot = 0, skirmishers = 1, mounted = 2;
 
 /// `foot`, `skirmishers` or `mounted`. Monsters are mounted when the special abilities of `row` in
 /// `BaseUnits` say so; −1 for `row` asks without a row.
-Int16 MountedKind(const ArmyState& state, std::string_view type, Int16 row);
+Int16 MountedKind(const ArmyState& state, const Disk& disk, std::string_view type, Int16 row);
 
 /// Whether the special abilities of a row of `BaseUnits` include `code`.
-bool UnitHasSpecial(const ArmyState& state, Int16 row, std::string_view code);
+bool UnitHasSpecial(const ArmyState& state, const Disk& disk, Int16 row, std::string_view code);
 
 /// What the special abilities dialog shows of the row `SpecUnitRow`. Throws SubscriptError when
 /// that is no row of `BaseUnits`.
-std::string SpecialAbilitiesText(const ArmyState& state);
+std::string SpecialAbilitiesText(const ArmyState& state, const Disk& disk);
 
 }  // namespace tarnwick

@@ -39,20 +39,21 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   layout->addLayout(lists);
   layout->addLayout(buttons);
 
-  FillArmyList(session_.Work.Army, form_);
+  FillArmyList(session_.Work.Army, session_.Store, form_);
   bindings_.Add(list, form_.ArmyList);
   bindings_.Add(detail, form_.ArmyDetailLabel);
   bindings_.Refresh();
 
   connect(list, &QListWidget::itemSelectionChanged, this,
-          [this] { Run([this] { ShowArmyDetail(session_.Work.Army, form_); }); });
+          [this] { Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); }); });
   OnDoubleClick(list, [this] {
-    Run([this] { ShowArmyDetail(session_.Work.Army, form_); });
+    Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); });
     Select();
   });
   connect(select, &QPushButton::clicked, this, &ArmyListDialog::Select);
-  connect(remove, &QPushButton::clicked, this,
-          [this] { Run([this] { DelArmy_Click(session_.Work.Army, session_.User, form_); }); });
+  connect(remove, &QPushButton::clicked, this, [this] {
+    Run([this] { DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_); });
+  });
 }
 
 void ArmyListDialog::Run(const std::function<void()>& operation) {
@@ -61,7 +62,7 @@ void ArmyListDialog::Run(const std::function<void()>& operation) {
 
 void ArmyListDialog::Select() {
   Run([this] {
-    if (SelectArmy(session_.Work, session_.User, form_)) accept();
+    if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
   });
 }
 

@@ -24,7 +24,7 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
   layout->addWidget(list);
   layout->addWidget(confirm, 0, Qt::AlignRight);
 
-  FillArmySelection(session_.Work.Army, form_);
+  FillArmySelection(session_.Work.Army, session_.Store, form_);
   bindings_.Add(list, form_.ArmyList);
   bindings_.Refresh();
   OnDoubleClick(list, [this] { Confirm(); });

@@ -56,7 +56,9 @@ void FormHost::ShowLeaderMgmtForm() {
 }
 
 void FormHost::ShowSpecForm() {
-  SpecialDialog(SpecialAbilitiesText(session_->Work.Army), QApplication::activeWindow()).exec();
+  SpecialDialog(SpecialAbilitiesText(session_->Work.Army, session_->Store),
+                QApplication::activeWindow())
+      .exec();
 }
 
 void FormHost::ShowPicture(const std::filesystem::path& file) {

@@ -13,9 +13,10 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   ApplyStyle();
 
-  WorkingArmy work(QCoreApplication::applicationDirPath().toStdU16String());
+  WorkingArmy work;
+  Disk disk(QCoreApplication::applicationDirPath().toStdU16String());
   FormHost host;
-  Session session(work, host);
+  Session session(work, disk, host);
   host.Serve(session);
   MainForm form(session);
   if (!form.Start()) return 1;

@@ -35,7 +35,7 @@ MainForm::MainForm(Session& session) : session_(session) {
 }
 
 bool MainForm::Start() {
-  if (!session_.Run([this] { Form_Load(session_.Work); })) return false;
+  if (!session_.Run([this] { Form_Load(session_.Work, session_.Store); })) return false;
   editFrame_->currentWidget()->setFocus();
   return true;
 }
@@ -123,7 +123,7 @@ QWidget* MainForm::NewPanelStack() {
 }
 
 void MainForm::Save() {
-  session_.Run([this] { SaveArmy(session_.Work, session_.User); });
+  session_.Run([this] { SaveArmy(session_.Work, session_.Store, session_.User); });
 }
 
 }  // namespace tarnwick

@@ -31,7 +31,7 @@ QWidget* ManagementPanelWidget::NewModuleFrame() {
   layout->addStretch();
   bindings_.Add(modules, session_.Work.Army.Management.modOption);
   connect(modules, &QButtonGroup::idClicked, this,
-          [this] { session_.Run([this] { modOption_Click(session_.Work); }); });
+          [this] { session_.Run([this] { modOption_Click(session_.Work, session_.Store); }); });
   return frame;
 }
 
@@ -75,12 +75,15 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* save = add("SaveBtn", "Save Army");
   layout->addStretch();
   setFocusProxy(newArmy);
-  connect(newArmy, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.User); }); });
-  connect(load, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { LoadBtn_Click(session_.Work, session_.User); }); });
-  connect(save, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { SaveArmy(session_.Work, session_.User); }); });
+  connect(newArmy, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.Store, session_.User); });
+  });
+  connect(load, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { LoadBtn_Click(session_.Work, session_.Store, session_.User); });
+  });
+  connect(save, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { SaveArmy(session_.Work, session_.Store, session_.User); });
+  });
   return row;
 }
 

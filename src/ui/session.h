@@ -12,13 +12,14 @@
 
 namespace tarnwick {
 
-/// What every window of the program shares: the working army, the way to the user, and the one
-/// way through for events.
+/// What every window of the program shares: the working army, the disk, the way to the user, and
+/// the one way through for events.
 class Session {
  public:
-  Session(WorkingArmy& work, Host& host) : Work(work), User(host) {}
+  Session(WorkingArmy& work, Disk& disk, Host& host) : Work(work), Store(disk), User(host) {}
 
   WorkingArmy& Work;
+  Disk& Store;
   Host& User;
   EntryGuard Guard;
 

@@ -36,15 +36,18 @@ QWidget* SetupPanelWidget::NewSetupList() {
 
   bindings_.Add(list, session_.Work.Field.Setup.setupList);
   connect(list, &QListWidget::itemSelectionChanged, this, [this] {
-    session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
+    session_.Run(
+        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
   });
   // An entry that is selected already shows its setup again, as after the panel hid it.
   const auto choose = [this] {
-    session_.Run([this] { setupList_Click(session_.Work.Field, session_.Work.Army); });
+    session_.Run(
+        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
   };
   connect(list, &QListWidget::itemClicked, this, choose);
   connect(list, &QListWidget::itemActivated, this, choose);
-  Connect(create, [this] { Command6_Click(session_.Work.Field, session_.Work.Army); });
+  Connect(create,
+          [this] { Command6_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
   Connect(remove, [this] { Command3_Click(session_.Work.Army); });
   return side;
 }
@@ -70,7 +73,8 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   bindings_.Add(units, setup.unitList);
   bindings_.Add(description, setup.description);
   connect(description, &QPlainTextEdit::textChanged, this, [this] {
-    session_.Run([this] { description_Change(session_.Work.Field, session_.Work.Army); });
+    session_.Run(
+        [this] { description_Change(session_.Work.Field, session_.Work.Army, session_.Store); });
   });
   return frame;
 }
@@ -96,7 +100,8 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
     layout->addWidget(unit, place - firstPlace, 2);
     bindings_.Add(unit, session_.Work.Field.Setup.unit[place]);
     Connect(assign, [this, place] {
-      assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.User, place);
+      assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.Store, session_.User,
+                      place);
     });
   }
   layout->setColumnStretch(2, 1);

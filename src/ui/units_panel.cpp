@@ -82,7 +82,7 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units,
   connect(verify, &QPushButton::clicked, this,
           [this] { session_.Run([this] { VerifyBtn_Click(session_.Work.Army, session_.User); }); });
   connect(reset, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { ResetArmy_Click(session_.Work); }); });
+          [this] { session_.Run([this] { ResetArmy_Click(session_.Work, session_.Store); }); });
 }
 
 QWidget* UnitsPanelWidget::NewViewFrame() {
@@ -92,8 +92,9 @@ QWidget* UnitsPanelWidget::NewViewFrame() {
   for (QAbstractButton* option : views->buttons())
     layout->addWidget(option);
   bindings_.Add(views, session_.Work.Army.Units.ViewOption);
-  connect(views, &QButtonGroup::idClicked, this,
-          [this] { session_.Run([this] { ViewOption_Click(session_.Work.Army); }); });
+  connect(views, &QButtonGroup::idClicked, this, [this] {
+    session_.Run([this] { ViewOption_Click(session_.Work.Army, session_.Store); });
+  });
   return frame;
 }
 
@@ -167,7 +168,8 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   quantity->setFixedWidth(TextWidth(grid, headings[buy].Characters));
   put(quantity, buy, units.Buy[line]);
   session_.Guard.Watch(quantity, [this, line] {
-    return session_.Allows([&] { return !Buy_Validate(session_.Work.Army, session_.User, line); });
+    return session_.Allows(
+        [&] { return !Buy_Validate(session_.Work.Army, session_.Store, session_.User, line); });
   });
 
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
@@ -186,7 +188,8 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   layout->addWidget(show, line + 1, view);
   bindings_.AddVisible(show, units.ViewBtn[line].Visible);
   connect(show, &QPushButton::clicked, this, [this, line] {
-    session_.Run([this, line] { ViewBtn_Click(session_.Work.Army, session_.User, line); });
+    session_.Run(
+        [this, line] { ViewBtn_Click(session_.Work.Army, session_.Store, session_.User, line); });
   });
 
   auto* abilities = Named(new QToolButton(grid), ElementName("specLabel", line));
@@ -199,7 +202,8 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
     abilities->setEnabled(!label.Caption.empty());
   });
   connect(abilities, &QToolButton::clicked, this, [this, line] {
-    session_.Run([this, line] { specLabel_Click(session_.Work.Army, session_.User, line); });
+    session_.Run(
+        [this, line] { specLabel_Click(session_.Work.Army, session_.Store, session_.User, line); });
   });
 }
 

@@ -18,9 +18,9 @@ class ArmyBrowser : public testing::Test {
  protected:
   /// Lists the armies, by name, and selects one.
   std::string Select(const std::string& name) {
-    FillArmyList(work_.Army, form_);
+    FillArmyList(work_.Army, disk_, form_);
     form_.ArmyList.Select(name);
-    ShowArmyDetail(work_.Army, form_);
+    ShowArmyDetail(work_.Army, disk_, form_);
     std::string names;
     for (const ListEntry& entry : form_.ArmyList.Entries)
       names += entry.Text + ";";
@@ -29,14 +29,15 @@ class ArmyBrowser : public testing::Test {
 
   /// Whether the selected army is chosen, and what is said then.
   std::string Choose() {
-    const bool chosen = SelectArmy(work_, host_, form_);
+    const bool chosen = SelectArmy(work_, disk_, host_, form_);
     const Lines said = host_.Heard();
     EXPECT_EQ(chosen, said.empty());
     return chosen ? "chosen" : said.front();
   }
 
   TempFolder folder_;
-  WorkingArmy work_{folder_.Path()};
+  Disk disk_{folder_.Path()};
+  WorkingArmy work_;
   FakeHost host_;
   ArmyListForm form_;
 };
@@ -94,16 +95,16 @@ TEST_F(ArmyBrowser, DeletesInTheProgramFolderAfterAQuestion) {
   folder_.Write("a.army", "");
   folder_.Write("brakka/a.army", "[ARMY]\n");
   work_.Army.BrakkaMode = true;
-  DelArmy_Click(work_.Army, host_, form_);  // nothing is selected
+  DelArmy_Click(work_.Army, disk_, host_, form_);  // nothing is selected
   host_.Answers = {false, true, true};
   Select("a");
-  DelArmy_Click(work_.Army, host_, form_);
+  DelArmy_Click(work_.Army, disk_, host_, form_);
   EXPECT_TRUE(folder_.Has("a.army"));
-  DelArmy_Click(work_.Army, host_, form_);
+  DelArmy_Click(work_.Army, disk_, host_, form_);
   EXPECT_FALSE(folder_.Has("a.army") || form_.ArmyList.HasSelection());
   EXPECT_EQ(Select("a"), "a;");
   std::filesystem::create_directory(folder_ / "a.army");  // no file
-  EXPECT_THROW(DelArmy_Click(work_.Army, host_, form_), FileError);
+  EXPECT_THROW(DelArmy_Click(work_.Army, disk_, host_, form_), FileError);
   EXPECT_TRUE(folder_.Has("a.army"));
   const std::string question = "Do You really want to delete the army a ?";
   EXPECT_EQ(host_.Heard(), (Lines{question, question, question}));

@@ -155,7 +155,7 @@ TEST_F(Loading, TheSecondModuleLosesTerrainAndSetups) {
   EXPECT_EQ(field_.AreaTerrain[1], "SLOPE");  // the file has it, though no save puts it there
   EXPECT_TRUE(field_.Setup.setupList.Entries.empty());
   host_.Answers = {true};
-  SaveArmy(sample_.Work, host_);
+  SaveArmy(sample_.Work, sample_.Store, host_);
   EXPECT_EQ(host_.Heard().size(), 2U);
   EXPECT_TRUE(sample_.Folder.Read("brakka/x.army").ends_with("TQ=4\r\nroute=30\r\n"));
   EXPECT_TRUE(sample_.Folder.Read("x.army").starts_with("[TERRAIN]\r\narea1=CLEAR\r\narea2=SLOPE"));

@@ -27,9 +27,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A player who clicks about in an editor, always in the same way for the same seed.
-class Player : public Editor {
+class Player : public Desk {
  public:
-  Player(const fs::path& folder, bool brakka, unsigned seed) : Editor(folder), random_(seed) {
+  Player(const fs::path& folder, bool brakka, unsigned seed) : Desk(folder), random_(seed) {
     ChooseModule(brakka ? 1 : 0);
   }
 
@@ -40,7 +40,7 @@ class Player : public Editor {
     for (const bool atRandom : {false, true}) {
       for (const int view : {1, 0}) {
         TickOption(army_.Units.ViewOption, view);
-        ShowSelectUnits(army_);
+        ShowSelectUnits(army_, Store);
         for (int k = 0; k < 23; ++k)
           BuyLine(k, atRandom);
       }
@@ -59,11 +59,11 @@ class Player : public Editor {
 
   void AddSetups() {
     for (int n = 0; n < 2; ++n) {
-      Command6_Click(Work.Field, army_);
+      Command6_Click(Work.Field, army_, Store);
       Work.Field.Setup.description.Text = "Setup\r\n" + std::to_string(Any(0, 99));
-      description_Change(Work.Field, army_);
+      description_Change(Work.Field, army_, Store);
       Work.Field.Setup.unitList.ListIndex = 0;
-      assignBtn_Click(Work.Field, army_, Host, Any(0, 8));
+      assignBtn_Click(Work.Field, army_, Store, Host, Any(0, 8));
     }
   }
 
@@ -76,7 +76,7 @@ class Player : public Editor {
                        header.ArmyDesc.Text + "|" + header.FromData.Text + header.ToData.Text;
     for (const Label& total : army_.Units.UnitTotalLabel)
       seen += "|" + (total.Visible ? total.Caption : "");
-    return seen + "|" + TempFolder::ReadBytes(army_.ProgramFolder / "working.setup");
+    return seen + "|" + TempFolder::ReadBytes(Store.ProgramFolder / "working.setup");
   }
 
  private:
@@ -110,7 +110,7 @@ class Player : public Editor {
     pictures.ListIndex = Any(0, static_cast<int>(pictures.Entries.size()) - 1);
     ImageName_Click(army_, line);
     box.Text = std::to_string(quantity);
-    if (!BuyUnits(army_, Host, line)) box.Text = "";
+    if (!BuyUnits(army_, Store, Host, line)) box.Text = "";
   }
 
   void ChooseLeader() {
@@ -154,10 +154,10 @@ std::string WithoutZeroCards(std::string file) {
 /// Random legal armies of every base army in the folder's catalogs, saved and loaded.
 void ExpectRoundTrips(const TempFolder& folder, bool brakka, unsigned seeds) {
   const std::string file = brakka ? "brakka/x.army" : "x.army";
-  Editor catalog(folder.Path());
+  Desk catalog(folder.Path());
   catalog.ChooseModule(brakka ? 1 : 0);
   ArmySelectionForm bases;
-  FillArmySelection(catalog.Work.Army, bases);
+  FillArmySelection(catalog.Work.Army, catalog.Store, bases);
   ASSERT_FALSE(bases.ArmyList.Entries.empty());
   for (const ListEntry& base : bases.ArmyList.Entries) {
     for (unsigned seed = 1; seed <= seeds; ++seed) {
@@ -191,10 +191,10 @@ TEST(RoundTrip, EveryShippedArmy) {
   const TempFolder folder;
   fs::copy(SHIPPED_DATA, folder.Path(), fs::copy_options::recursive);
   for (const bool brakka : {false, true}) {
-    Editor editor(folder.Path());  // the sample armies are legal and say nothing
+    Desk editor(folder.Path());  // the sample armies are legal and say nothing
     editor.ChooseModule(brakka ? 1 : 0);
     ArmyListForm browser;
-    FillArmyList(editor.Work.Army, browser);
+    FillArmyList(editor.Work.Army, editor.Store, browser);
     EXPECT_EQ(browser.ArmyList.Entries.size(), brakka ? 2U : 4U);
     for (const ListEntry& army : browser.ArmyList.Entries) {
       editor.Load(army.Text);

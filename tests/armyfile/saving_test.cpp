@@ -64,7 +64,7 @@ TEST_F(Saving, WritesTheWholeArmy) {
   const char* const quantities[] = {"2", "3", "1"};
   for (int k = 0; k < 3; ++k) {
     army_.Units.Buy[k].Text = quantities[k];
-    BuyUnits(army_, sample_.Host, k);
+    BuyUnits(army_, sample_.Store, sample_.Host, k);
   }
   army_.BaseUnits[4].Bought = -1;  // gives no line
   army_.Units.ImageName[1].ListIndex = 1;
@@ -87,9 +87,9 @@ TEST_F(Saving, WritesTheWholeArmy) {
 TEST_F(Saving, AsksBeforeItReplacesAFile) {
   sample_.Folder.Write("Tyre.army", "[ARMY]\nname=old\n[SETUP 1]\ndescription=old\n");
   sample_.Host.Answers = {false, true};
-  SaveArmy(work_, sample_.Host);
+  SaveArmy(work_, sample_.Store, sample_.Host);
   EXPECT_EQ(Saved(), "[ARMY]\nname=old\n[SETUP 1]\ndescription=old\n");
-  SaveArmy(work_, sample_.Host);
+  SaveArmy(work_, sample_.Store, sample_.Host);
   EXPECT_EQ(sample_.Host.Heard(), (Lines{question, question, "Army Saved"}));
   EXPECT_EQ(Saved(), plainArmy);
   army_.Management.ArmyFileName.Text = "brakka\\Tyre";

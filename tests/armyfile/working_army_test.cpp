@@ -77,7 +77,7 @@ TEST_F(NewArmy, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
   sample_.NewArmy("Trolls");
   EXPECT_EQ(Summary(), "Trolls|||FP|0|CLEAR|77");
   sample_.Folder.Write("images.dat", "[IMAGES]\ntotal=201\n");
-  EXPECT_THROW(Editor(sample_.Folder.Path()), SubscriptError);
+  EXPECT_THROW(Desk(sample_.Folder.Path()), SubscriptError);
 }
 
 }  // namespace

@@ -48,31 +48,32 @@ class Setups : public testing::Test {
   /// Clicks "<->" of a place; what lies there and what is listed comes back.
   std::string Assign(int place, int selected) {
     panel_.unitList.ListIndex = selected;
-    assignBtn_Click(field_, state_, host_, place);
+    assignBtn_Click(field_, state_, disk_, host_, place);
     EXPECT_FALSE(panel_.unitList.HasSelection());
     return panel_.unit[place].Caption + " " + Listed(panel_.unitList);
   }
   void Describe(const char* text) {
     panel_.description.Text = text;
-    description_Change(field_, state_);
+    description_Change(field_, state_, disk_);
   }
 
   TempFolder folder_;
-  ArmyState state_{folder_.Path()};
+  Disk disk_{folder_.Path()};
+  ArmyState state_;
   Battlefield field_;
   SetupPanel& panel_ = field_.Setup;
   FakeHost host_;
 };
 
 TEST_F(Setups, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
-  Command6_Click(field_, state_);
+  Command6_Click(field_, state_, disk_);
   EXPECT_EQ(Listed(panel_.setupList) + panel_.setupList.Text(), "1;1");
   EXPECT_EQ(Scratch(), Section("1", "New setup"));
   EXPECT_TRUE(panel_.setupFramePanel.Visible);
   Assign(0, 0);
   std::string before = Section("1", "New setup", "HI,,4,2,J");
   EXPECT_EQ(Scratch(), before);
-  Command6_Click(field_, state_);
+  Command6_Click(field_, state_, disk_);
   EXPECT_EQ(Scratch(), before + Section("2", "New setup", "HI,,4,2,J"));
   EXPECT_EQ(panel_.unit[0].Caption + Listed(panel_.unitList), "HI,,4,2,J;SK,,4,2,J;SK,,4,2,J;");
   Describe(" two\r\nlines ");
@@ -86,7 +87,7 @@ TEST_F(Setups, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
   panel_.setupList.Clear();
   for (const char* number : {"1", "5", "2"})
     panel_.setupList.AddItem(number);
-  Command6_Click(field_, state_);
+  Command6_Click(field_, state_, disk_);
   EXPECT_EQ(Listed(panel_.setupList) + panel_.setupList.Text(), "1;5;2;6;6");
 }
 
@@ -96,14 +97,14 @@ TEST_F(Setups, ShowingASetupWritesNothing) {
   const auto stamp = std::filesystem::last_write_time(folder_ / "working.setup");
   panel_.setupList.AddItem("3");
   panel_.setupList.AddItem("4");
-  setupList_Click(field_, state_);  // nothing is selected
+  setupList_Click(field_, state_, disk_);  // nothing is selected
   EXPECT_FALSE(panel_.setupFramePanel.Visible);
   panel_.setupList.ListIndex = 0;
-  setupList_Click(field_, state_);
+  setupList_Click(field_, state_, disk_);
   EXPECT_EQ(panel_.description.Text + panel_.unit[8].Caption, "a\r\nbSK,,4,2,J");
   EXPECT_EQ(Listed(panel_.unitList), "HI,,4,2,J;");  // of two rows alike neither is listed
   panel_.setupList.ListIndex = 1;
-  setupList_Click(field_, state_);
+  setupList_Click(field_, state_, disk_);
   EXPECT_EQ(panel_.description.Text + panel_.unit[8].Caption, "");
   EXPECT_EQ(field_.CurrentSetup, 4);
   EXPECT_EQ(Scratch(), stored);
@@ -120,7 +121,7 @@ TEST_F(Setups, ShowingASetupWritesNothing) {
 }
 
 TEST_F(Setups, UnitsAreDeployedExchangedAndWithdrawn) {
-  Command6_Click(field_, state_);
+  Command6_Click(field_, state_, disk_);
   Assign(4, -1);
   EXPECT_EQ(host_.Heard(), Lines{"Please select a unit"});
   EXPECT_EQ(Assign(8, 1), "SK,,4,2,J HI,,4,2,J;SK,,4,2,J;");
@@ -146,16 +147,16 @@ TEST_F(Setups, TwentyTravelBetweenArmyAndScratchFile) {
           "[SETUP 20]\r\ndescription=a\\nb\r\n[SETUP 2]\r\nfield9=HI,,4,2,J"
           "\r\ndescription=two\r\n[SETUP 3]\r\nfield1=x\r\n[SETUP 21]\r\ndescription=d\r\n");
   folder_.Write("working.setup", Section("1", "old"));
-  LoadSetupsFromArmy(field_, state_, folder_ / "x.army");
+  LoadSetupsFromArmy(field_, disk_, folder_ / "x.army");
   EXPECT_EQ(Listed(panel_.setupList), "2;20;");
   EXPECT_EQ(Scratch(), scratch);
   folder_.Write("y.army", army);
   folder_.Write("working.setup", scratch + Section("3", "") + Section("21", "d"));
   PendingFiles files;
-  CopySetupsToArmy(state_, files, folder_ / "y.army");
-  files.Replace(state_.Files);
+  CopySetupsToArmy(disk_, files, folder_ / "y.army");
+  files.Replace(disk_.Files);
   EXPECT_EQ(folder_.Read("y.army"), army + scratch);
-  LoadSetupsFromArmy(field_, state_, folder_ / "none.army");
+  LoadSetupsFromArmy(field_, disk_, folder_ / "none.army");
   EXPECT_EQ(Listed(panel_.setupList) + Scratch(), "<missing>");
 }
 

@@ -28,7 +28,7 @@ class Terrain : public testing::Test {
   void Save() {
     PendingFiles files;
     SaveTerrain(field_, files, folder_ / "x.army");
-    files.Replace(state_.Files);
+    files.Replace(disk_.Files);
   }
   /// What lies on an area, and how it is shown.
   std::string Area(int area) const {
@@ -37,7 +37,8 @@ class Terrain : public testing::Test {
   }
 
   TempFolder folder_;
-  ArmyState state_{folder_.Path()};
+  Disk disk_{folder_.Path()};
+  ArmyState state_;
   Battlefield field_;
   FakeHost host_;
 };
@@ -49,7 +50,7 @@ TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
     field_.AreaTerrain[0] = names[kind];
     Save();
     state_.PointsLeft = state_.CommandPts = 0;
-    LoadTerrain(field_, state_, folder_ / "x.army");  // charges even below zero
+    LoadTerrain(field_, state_, disk_.Files, folder_ / "x.army");  // charges even below zero
     EXPECT_EQ(Points(), prices[kind]) << names[kind];
   }
   state_.PointsLeft = 150;
@@ -94,10 +95,10 @@ TEST_F(Terrain, FilesHoldAllNineAreas) {
             "area9=CLEAR\r\n\r\n[SETUP 1]\r\n");
 
   folder_.Write("x.army", "[TERRAIN]\narea1=\narea9=CLIFF\n");
-  LoadTerrain(field_, state_, folder_ / "x.army");
+  LoadTerrain(field_, state_, disk_.Files, folder_ / "x.army");
   EXPECT_EQ(field_.AreaTerrain[0] + field_.AreaTerrain[8] + Points(), "CLEARCLIFF-150/0");
   folder_.Write("x.army", "[TERRAIN]\narea1=WOOD\narea2=wood\narea3=WOOD\n");
-  EXPECT_THROW(LoadTerrain(field_, state_, folder_ / "x.army"), SubscriptError);
+  EXPECT_THROW(LoadTerrain(field_, state_, disk_.Files, folder_ / "x.army"), SubscriptError);
   EXPECT_EQ(field_.AreaTerrain[1] + field_.AreaTerrain[2] + Points(), "woodCLEAR-170/0");
 }
 

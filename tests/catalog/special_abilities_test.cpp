@@ -16,8 +16,8 @@ TEST(SpecialAbilities, TenCodesAreLookedAtAndTheFirstGapEndsTheList) {
                "[Gap]\nspecial=FAST++MOUNTED\n[Unknown]\nspecial=FAST+RIDDLE+MOUNTED\n"
                "[Many]\nspecial=A+A+A+A+A+A+A+A+A+MOUNTED+FAST\n"
                "[SPECIALS]\nFAST=Moves twice\nMOUNTED=Rides\nA=1\n");
-  const ProfileFiles files;
-  const SpecialAbilities abilities(files, folder.Path());
+  const Disk disk(folder.Path());
+  const SpecialAbilities abilities(disk);
   const std::string fast = "\r\n\r\n*FAST=Moves twice";
   const std::string mounted = "\r\n\r\n*MOUNTED=Rides";
   std::string many;

@@ -19,7 +19,7 @@ struct Row {
 };
 
 std::string LineFor(const std::vector<Row>& rows) {
-  ArmyState state{"/"};
+  ArmyState state;
   for (const auto& [type, tq, size, bought] : rows) {
     UnitRec& unit = state.BaseUnits[++state.TotUnits];
     unit.UnitType = type;

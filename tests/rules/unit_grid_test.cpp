@@ -35,7 +35,7 @@ class Grid : public testing::Test {
   /// The rows that a view shows, in their order, with their colours.
   std::string Rows(int view) {
     TickOption(grid_.ViewOption, view);
-    ViewOption_Click(state_);
+    ViewOption_Click(state_, sample_.Store);
     std::string rows;
     for (int k = 0; k <= 22 && grid_.Buy[k].Visible; ++k)
       rows += grid_.Buy[k].Tag + "." + std::to_string(grid_.TypeLabel[k].ForeColor) + " ";
@@ -67,7 +67,7 @@ TEST_F(Grid, TheViewsShareTheRows) {
 TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
   state_.BaseUnits[1].Bought = 3;
   state_.BaseUnits[2].Bought = -2;
-  ShowSelectUnits(state_);
+  ShowSelectUnits(state_, sample_.Store);
   const auto line = [this](int k) {
     std::string text = grid_.Buy[k].Text;
     for (const auto* column : {&grid_.TypeLabel, &grid_.ClassLabel, &grid_.TQLabel,
@@ -102,7 +102,7 @@ TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
   EXPECT_EQ(chosen(), "Oldest|Oldest6");
   // A choice that does not fit is kept although the list shows another one.
   state_.BaseUnits[1].ChosenImageIdx = 2;
-  ShowSelectUnits(state_);
+  ShowSelectUnits(state_, sample_.Store);
   EXPECT_EQ(chosen(), "Old|Oldest2");
   grid_.Buy[0].Tag = "";  // a reset has taken the row off the line
   grid_.ImageName[0].ListIndex = 1;
@@ -112,7 +112,7 @@ TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
 
 TEST_F(Grid, ButtonsShowPictureAndAbilities) {
   const auto view = [this](int line) {
-    ViewBtn_Click(state_, sample_.Host, line);
+    ViewBtn_Click(state_, sample_.Store, sample_.Host, line);
     Lines seen = sample_.Host.Heard();
     for (const auto& picture : std::exchange(sample_.Host.Pictures, {}))
       seen.push_back(picture.string());
@@ -130,13 +130,14 @@ TEST_F(Grid, ButtonsShowPictureAndAbilities) {
 
   int shown = 0;
   sample_.Host.OnSpecForm = [&] { shown = state_.SpecUnitRow.Value(); };
-  specLabel_Click(state_, sample_.Host, 1);
+  specLabel_Click(state_, sample_.Store, sample_.Host, 1);
   EXPECT_EQ(shown, 0);
-  specLabel_Click(state_, sample_.Host, 2);
+  specLabel_Click(state_, sample_.Store, sample_.Host, 2);
   EXPECT_EQ(shown, 4);
-  EXPECT_EQ(SpecialAbilitiesText(state_), "Special abilities for the unit: LM\r\n\r\n\r\n*BIG=Big");
+  EXPECT_EQ(SpecialAbilitiesText(state_, sample_.Store),
+            "Special abilities for the unit: LM\r\n\r\n\r\n*BIG=Big");
   grid_.Buy[0].Tag = "";
-  specLabel_Click(state_, sample_.Host, 0);
+  specLabel_Click(state_, sample_.Store, sample_.Host, 0);
   EXPECT_EQ(shown, 1);
 }
 

@@ -18,7 +18,7 @@ class Purchase : public testing::Test {
   /// Types a quantity into a line and leaves it; what was said comes back, or else the line.
   std::string Buy(int line, const std::string& text) {
     grid_.Buy[line].Text = text;
-    const bool cancel = Buy_Validate(state_, sample_.Host, line);
+    const bool cancel = Buy_Validate(state_, sample_.Store, sample_.Host, line);
     const Lines said = sample_.Host.Heard();
     EXPECT_EQ(cancel, !said.empty()) << text;
     return said.empty() ? Line(line) : said.front();
@@ -87,7 +87,7 @@ TEST_F(Purchase, WhatLeaves16BitsAndDividingByZeroAreErrors) {
 TEST_F(Purchase, TheTagNamesTheRow) {
   TickOption(grid_.ViewOption, 2);
   state_.BaseUnits[2].Bought = 1;
-  ShowSelectUnits(state_);
+  ShowSelectUnits(state_, sample_.Store);
   Buy(0, "2");
   EXPECT_EQ(state_.BaseUnits[2].Bought, 2);
 }
@@ -100,7 +100,7 @@ TEST_F(Purchase, AfterAResetQuantitiesCountForWhatTheLinesShow) {
   UnitsPanel& grid = state.Units;
   const auto buy = [&](int line, const char* text) {
     grid.Buy[line].Text = text;
-    BuyUnits(state, twins.Host, line);
+    BuyUnits(state, twins.Store, twins.Host, line);
     std::string bought;
     for (int r = 1; r <= 5; ++r)
       bought += NumberText(state.BaseUnits[r].Bought);
@@ -110,7 +110,7 @@ TEST_F(Purchase, AfterAResetQuantitiesCountForWhatTheLinesShow) {
     for (int r = 2; r <= 5; ++r)
       state.BaseUnits[r].Bought = 1;
     TickOption(grid.ViewOption, view);
-    ShowSelectUnits(state);
+    ShowSelectUnits(state, twins.Store);
     for (int k = 0; k <= 22; ++k)
       grid.Buy[k].Tag = grid.Buy[k].Text = grid.UnitTotalLabel[k].Caption = "";
     for (int r = 1; r <= 5; ++r)

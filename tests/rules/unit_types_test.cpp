@@ -28,17 +28,18 @@ TEST(UnitTypeCode, SomeTypesAreSplitByClass) {
 TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
   const TempFolder folder;
   folder.Write("specials.dat", "[Wyvern]\nspecial=FLY+MOUNTED\n[Ogre]\nspecial=BIG\n");
-  ArmyState state(folder.Path());
+  const Disk disk(folder.Path());
+  ArmyState state;
   state.BaseUnits[1].SpecialsKey = "Wyvern";
   state.BaseUnits[2].SpecialsKey = "Ogre";
   for (const char* type : {"HC", "RC", "BC", "LN", "EL", "LC", "CH", "GC", "KB"})
-    EXPECT_EQ(MountedKind(state, type, 2), mounted) << type;
+    EXPECT_EQ(MountedKind(state, disk, type, 2), mounted) << type;
   for (const char* type : {"SM", "LM"})
-    EXPECT_EQ(MountedKind(state, type, 1), mounted) << type;
+    EXPECT_EQ(MountedKind(state, disk, type, 1), mounted) << type;
   for (const char* type : {"SM", "LM", "HI", "hc", ""})
-    EXPECT_EQ(MountedKind(state, type, type[0] == 'H' ? 1 : 2), foot) << type;
-  EXPECT_EQ(MountedKind(state, "SM", -1), foot);
-  EXPECT_EQ(MountedKind(state, "SK", 1), skirmishers);
+    EXPECT_EQ(MountedKind(state, disk, type, type[0] == 'H' ? 1 : 2), foot) << type;
+  EXPECT_EQ(MountedKind(state, disk, "SM", -1), foot);
+  EXPECT_EQ(MountedKind(state, disk, "SK", 1), skirmishers);
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
   ArmyState& state = sample.State;
   ArmySelectionForm form;
   form.ArmyList.AddItem("left over");
-  FillArmySelection(state, form);
+  FillArmySelection(state, sample.Store, form);
   EXPECT_EQ(form.ArmyList.Entries, (std::vector<ListEntry>{{"Gaul", 0}, {"", 0}, {"Epirus", 0}}));
   for (const int line : {-1, 1}) {
     form.ArmyList.ListIndex = line;
@@ -97,7 +97,7 @@ TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
   form.ArmyList.ListIndex = 2;
   EXPECT_TRUE(ConfirmArmySelection(state, sample.Host, form));
   EXPECT_EQ(state.BaseArmyName, "Epirus");
-  FillArmySelection(state, form);
+  FillArmySelection(state, sample.Store, form);
   EXPECT_EQ(state.BaseArmyName, "");
 }
 

@@ -29,36 +29,37 @@ inline constexpr std::string_view sampleImages =
     "image2=pictures/sk one.svg,SK,,J,Javelin\nimage3=pictures/sk two.svg,SK,,J,Long javelin\n"
     "image4=pictures/ph.svg,PH,,,Pike\nimage5=pictures/bi.svg,BI,,,Band\n";
 
-/// A started editor and its user.
-struct Editor {
-  explicit Editor(const std::filesystem::path& folder) : Work(folder) { Form_Load(Work); }
+/// A started editor without its window, and its user.
+struct Desk {
+  explicit Desk(const std::filesystem::path& folder) : Store(folder) { Form_Load(Work, Store); }
 
   /// The user starts a new army; "" closes the dialog without a choice.
   void NewArmy(const std::string& base) {
     Host.OnArmySelectionForm = [this, base] { Work.Army.BaseArmyName = base; };
-    NewArmyBtn_Click(Work, Host);
+    NewArmyBtn_Click(Work, Store, Host);
   }
 
   /// The user loads an army; "" closes the browser without a choice.
   void Load(const std::string& name) {
     Host.OnArmyListForm = [this, name] { Work.Header.ArmyFile = name; };
-    LoadBtn_Click(Work, Host);
+    LoadBtn_Click(Work, Store, Host);
   }
 
   /// Saves, over what there is; what was said last comes back.
   std::string Save() {
     Host.Answers = {true};
-    SaveArmy(Work, Host);
+    SaveArmy(Work, Store, Host);
     const Lines said = Host.Heard();
     return said.empty() ? "" : said.back();
   }
 
   void ChooseModule(int option) {
     TickOption(Work.Army.Management.modOption, option);
-    modOption_Click(Work);
+    modOption_Click(Work, Store);
   }
 
   FakeHost Host;
+  Disk Store;
   WorkingArmy Work;
 };
 
@@ -74,8 +75,8 @@ struct SampleFolder {
   TempFolder Folder;
 };
 
-struct SampleArmy : SampleFolder, Editor {
-  SampleArmy() : Editor(Folder.Path()) {}
+struct SampleArmy : SampleFolder, Desk {
+  SampleArmy() : Desk(Folder.Path()) {}
 };
 
 }  // namespace tarnwick

@@ -20,20 +20,21 @@ struct SampleState {
   explicit SampleState(std::string_view army, std::string_view images = "") {
     Folder.Write("armylist.dat", std::string("[Sample]\n").append(army));
     Folder.Write("images.dat", images);
-    InitializeVariables(State);
-    LoadImages(State.Catalog, State.Files, Folder.Path(), false, "");
+    InitializeVariables(State, Store);
+    LoadImages(State.Catalog, Store, false, "");
     Load("Sample");
   }
 
   void Load(const std::string& army) {
     State.BaseArmyName = army;
-    LoadBaseArmy(State, Host);
-    ShowSelectUnits(State);
+    LoadBaseArmy(State, Store, Host);
+    ShowSelectUnits(State, Store);
   }
 
   TempFolder Folder;
   FakeHost Host;
-  ArmyState State{Folder.Path()};
+  Disk Store{Folder.Path()};
+  ArmyState State;
 };
 
 /// "left/spent" of the army points.

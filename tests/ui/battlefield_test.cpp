@@ -38,7 +38,7 @@ struct BattlefieldTest : WindowTest {
   }
 
   std::string Stored(const char* key) const {
-    return Work.Army.Files.ReadIniString("SETUP 1", key, Folder.Path() / "working.setup");
+    return Store.Files.ReadIniString("SETUP 1", key, Folder.Path() / "working.setup");
   }
 };
 

@@ -132,9 +132,10 @@ struct WindowTest : testing::Test {
   void ExpectWindowShowsState() const;
 
   TempFolder Folder;
-  WorkingArmy Work{Folder.Path()};
+  Disk Store{Folder.Path()};
+  WorkingArmy Work;
   FormHost User;
-  Session Events{Work, User};
+  Session Events{Work, Store, User};
   MainForm Form{Events};
   WindowDriver Hands;
 

@@ -42,13 +42,14 @@ bool IsNumber(const std::string& text) {
 /// Checks the catalogs of one module.
 class ModuleCheck {
  public:
-  ModuleCheck(ArmyState& state, std::vector<CatalogProblem>& problems)
+  ModuleCheck(ArmyState& state, const Disk& disk, std::vector<CatalogProblem>& problems)
       : state_(state),
-        armies_(state.ProgramFolder, state.BrakkaMode ? "brakka/armylist.dat" : "armylist.dat",
-                state.Files, problems),
-        specials_(state.ProgramFolder, "specials.dat", state.Files, problems),
-        images_(state.ProgramFolder, state.BrakkaMode ? "brakka/images_brakka.dat" : "images.dat",
-                state.Files, problems) {}
+        disk_(disk),
+        armies_(disk.ProgramFolder, state.BrakkaMode ? "brakka/armylist.dat" : "armylist.dat",
+                disk.Files, problems),
+        specials_(disk.ProgramFolder, "specials.dat", disk.Files, problems),
+        images_(disk.ProgramFolder, state.BrakkaMode ? "brakka/images_brakka.dat" : "images.dat",
+                disk.Files, problems) {}
 
   void CheckImages(const std::function<bool(const fs::path&)>& canShow);
   void CheckArmies();
@@ -69,6 +70,7 @@ class ModuleCheck {
                    const std::vector<LeaderRec>& leaders) const;
 
   ArmyState& state_;
+  const Disk& disk_;
   FileCheck armies_, specials_, images_;
 };
 
@@ -77,7 +79,7 @@ void ModuleCheck::CheckImages(const std::function<bool(const fs::path&)>& canSho
   const int total = images_.CheckCount("IMAGES", "total", mostImages);
   images_.CheckRows("IMAGES", "image", total);
   try {
-    LoadImages(state_.Catalog, state_.Files, state_.ProgramFolder, state_.BrakkaMode, "");
+    LoadImages(state_.Catalog, disk_, state_.BrakkaMode, "");
   } catch (const SubscriptError&) {
     images_.Report("IMAGES", "total", "Both catalogs together have more than 200 rows.");
     return;
@@ -99,8 +101,9 @@ void ModuleCheck::CheckImage(int i, const std::function<bool(const fs::path&)>& 
              " too; loading an army finds the first.");
     }
   }
-  fs::path picture = PathIn(state_.ProgramFolder, image.Id);
-  if (!FileExists(picture) && state_.BrakkaMode) picture = PathIn(ModuleFolder(state_), image.Id);
+  fs::path picture = PathIn(disk_.ProgramFolder, image.Id);
+  if (!FileExists(picture) && state_.BrakkaMode)
+    picture = PathIn(disk_.ModuleFolder(true), image.Id);
   if (!FileExists(picture)) {
     report("The picture " + image.Id + " is missing.");
   } else if (!canShow(picture)) {
@@ -211,7 +214,7 @@ void ModuleCheck::CheckViews(const std::string& army, const std::vector<UnitRec>
   int mountedRows = 0;
   for (const UnitRec& unit : units) {
     state_.BaseUnits[1] = unit;  // the row that the question is about
-    if (MountedKind(state_, unit.UnitType, 1) == mounted) ++mountedRows;
+    if (MountedKind(state_, disk_, unit.UnitType, 1) == mounted) ++mountedRows;
   }
   const int infantryRows = static_cast<int>(units.size()) - mountedRows;
   if (infantryRows > mostPerView) {
@@ -319,11 +322,12 @@ void ModuleCheck::CheckBudget(const std::string& army, const std::vector<UnitRec
 std::vector<CatalogProblem> CheckCatalogs(const fs::path& programFolder,
                                           const std::function<bool(const fs::path&)>& canShow) {
   std::vector<CatalogProblem> problems;
-  ArmyState state(programFolder);
-  FileCheck(programFolder, "specials.dat", state.Files, problems).CheckText();
+  ArmyState state;
+  const Disk disk(programFolder);
+  FileCheck(programFolder, "specials.dat", disk.Files, problems).CheckText();
   for (const bool brakka : {false, true}) {
     state.BrakkaMode = brakka;
-    ModuleCheck check(state, problems);
+    ModuleCheck check(state, disk, problems);
     check.CheckImages(canShow);
     check.CheckArmies();
   }
