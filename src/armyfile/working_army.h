@@ -14,6 +14,8 @@ struct WorkingArmy {
   ArmyState Army;
   Battlefield Field;
   ArmyHeader Header;
+
+  bool operator==(const WorkingArmy&) const = default;
 };
 
 /// The module that the options show becomes the module of the army.

@@ -18,38 +18,52 @@ struct Label {
   std::string Tag;
   bool Visible = true;
   int ForeColor = 0;  ///< index in the classic 16-colour palette; 0 is black
+
+  bool operator==(const Label&) const = default;
 };
 
 struct TextBox {
   std::string Text;
   std::string Tag;
   bool Visible = true;
+
+  bool operator==(const TextBox&) const = default;
 };
 
 struct Button {
   std::string Caption;
   bool Visible = true;
+
+  bool operator==(const Button&) const = default;
 };
 
 struct Frame {
   std::string Caption;
   bool Visible = true;
+
+  bool operator==(const Frame&) const = default;
 };
 
 struct OptionButton {
   std::string Caption;
   bool Value = false;
   bool Visible = true;
+
+  bool operator==(const OptionButton&) const = default;
 };
 
 /// A box that shows a picture, and the area pictures are dropped on.
 struct PictureBox {
   std::string Tag = "0";
   int Picture = 0;  ///< which picture it shows
+
+  bool operator==(const PictureBox&) const = default;
 };
 
 struct CheckBox {
   bool Value = false;
+
+  bool operator==(const CheckBox&) const = default;
 };
 
 struct ListEntry {
@@ -83,11 +97,15 @@ struct ListBox {
     if (found != Entries.end()) ListIndex = static_cast<int>(found - Entries.begin());
   }
   void AddItem(const std::string& text, Int16 itemData = 0) { Entries.push_back({text, itemData}); }
+
+  bool operator==(const ListBox&) const = default;
 };
 
 /// Panels of equal place and size, of which one is in front.
 struct FrameStack {
   int Front = 0;
+
+  bool operator==(const FrameStack&) const = default;
 };
 
 }  // namespace tarnwick

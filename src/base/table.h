@@ -30,6 +30,8 @@ class Table {
   auto begin() const { return rows_.begin(); }
   auto end() const { return rows_.end(); }
 
+  bool operator==(const Table&) const = default;
+
  private:
   static std::size_t Position(Int16 index) {
     if (index < Low || index > High) throw SubscriptError();
@@ -52,6 +54,8 @@ class ControlArray {
 
   T& operator[](Int16 index) { return elements_[Position(index)]; }
   const T& operator[](Int16 index) const { return elements_[Position(index)]; }
+
+  bool operator==(const ControlArray&) const = default;
 
  private:
   std::size_t Position(Int16 index) const {

@@ -14,6 +14,8 @@ struct TerrainKindRec {
   std::string Name;   ///< the keyword that army files hold
   Int16 ArmyCost;     ///< army points
   Int16 CommandCost;  ///< command points
+
+  bool operator==(const TerrainKindRec&) const = default;
 };
 
 /// The "Terrain" panel. A picture box shows the picture of the kind of its number.
@@ -21,6 +23,8 @@ struct TerrainPanel {
   Table<PictureBox, 0, 5> TerrImg;  ///< the palette; the tag is the kind's index
   Table<PictureBox, 0, 8> Area;     ///< the tag is the index of the kind that lies there
   Label ArmyPts, CommandPts;
+
+  bool operator==(const TerrainPanel&) const = default;
 };
 
 /// The "Setup" panel.
@@ -30,6 +34,8 @@ struct SetupPanel {
   TextBox description{.Text = "<insert the setup description here>", .Tag = ""};
   Table<Label, 0, 8> unit;  ///< the nine places
   ListBox unitList;         ///< the units that no place holds
+
+  bool operator==(const SetupPanel&) const = default;
 };
 
 /// The terrain on offer, what lies on the nine areas, and the army's setups.
@@ -40,6 +46,8 @@ struct Battlefield {
 
   TerrainPanel Terrain;
   SetupPanel Setup;
+
+  bool operator==(const Battlefield&) const = default;
 };
 
 }  // namespace tarnwick

@@ -22,6 +22,8 @@ struct UnitRec {
   std::string ChosenImage;
   Int16 ChosenImageIdx;  ///< row in the image catalog; 0 is none
   std::string SpecialsKey;
+
+  bool operator==(const UnitRec&) const = default;
 };
 
 /// A rule that says how many units of a type, or of either of two types, an army needs.
@@ -30,6 +32,8 @@ struct LimitRec {
   std::string TypeB;  ///< "" when the rule names one type
   std::string Class;  ///< "" when the rule is on types only
   Int16 Minimum;
+
+  bool operator==(const LimitRec&) const = default;
 };
 
 struct LeaderRec {
@@ -37,6 +41,8 @@ struct LeaderRec {
   std::string Initiative;  ///< a whole number as text
   Int16 Command;
   Int16 Cost;  ///< command points
+
+  bool operator==(const LeaderRec&) const = default;
 };
 
 /// A special card on offer, as the catalog writes it.

@@ -19,6 +19,8 @@ struct Version {
   Int16 Major = 1;
   Int16 Minor = 2;
   Int16 Revision = 1;
+
+  bool operator==(const Version&) const = default;
 };
 
 /// "1.2.1"
@@ -42,6 +44,8 @@ struct UnitsPanel {
   Table<Label, 0, 6> MinLimit;
 
   Label TotalCost, TQinfo;
+
+  bool operator==(const UnitsPanel&) const = default;
 };
 
 /// The "Command" panel: leaders and special cards.
@@ -51,12 +55,16 @@ struct CommandPanel {
 
   ControlArray<Label> SpecNameLabel, SpecCostLabel, SpecMaxLabel;
   ControlArray<TextBox> SpecBuy;  ///< the tag holds the number of cards paid for
+
+  bool operator==(const CommandPanel&) const = default;
 };
 
 /// The "Army Managemet" panel.
 struct ManagementPanel {
   Table<OptionButton, 0, 1> modOption;  ///< the base game, Brakka
   TextBox ArmyName, ArmyFileName;
+
+  bool operator==(const ManagementPanel&) const = default;
 };
 
 /// The "Monster Laboratory" panel. Nothing reads its lists.
@@ -64,6 +72,8 @@ struct MonsterPanel {
   MonsterPanel();
 
   ListBox M_Size, M_TQ, M_Type;
+
+  bool operator==(const MonsterPanel&) const = default;
 };
 
 /// The working army: what the catalog says of its base army, what the player bought, and what
@@ -103,6 +113,8 @@ struct ArmyState {
   CommandPanel Command;
   ManagementPanel Management;
   MonsterPanel Monster;
+
+  bool operator==(const ArmyState&) const = default;
 };
 
 /// What the window's design holds before anything is loaded: the module's paths, captions, and

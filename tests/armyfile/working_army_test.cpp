@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/working_army.h"
 
+#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "armyfile/resetting.h"
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "support/sample_army.h"
@@ -46,6 +48,28 @@ TEST_F(NewArmy, StartsFromTheChosenBaseArmy) {
   EXPECT_EQ(Summary(), "Strict Army|||P|0|CLEAR|100");
   EXPECT_EQ(army_.Command.LeaderName[0].Caption, "Milo 40 [ 4 / 1 ] ");
   EXPECT_FALSE(army_.Units.Buy[0].Visible);
+}
+
+TEST_F(NewArmy, IsAPlainValue) {
+  WorkingArmy& work = sample_.Work;
+  const WorkingArmy before = work;
+  const std::function<void()> changes[] = {[&] { army_.BaseUnits[200].SpecialsKey = "x"; },
+                                           [&] { army_.Catalog.Images[1].Name = "x"; },
+                                           [&] { army_.Leaders[10].Command = 1; },
+                                           [&] { army_.Units.ImageName[22].AddItem("x"); },
+                                           [&] { army_.Command.SpecBuy[3].Tag = "1"; },
+                                           [&] { army_.Command.SpecBuy.Load(); },
+                                           [&] { work.Field.Terrain.Area[8].Picture = 1; },
+                                           [&] { work.Field.Setup.unit[8].Caption = "x"; },
+                                           [&] { header_.ToData.Tag = "x"; },
+                                           [&] { sample_.NewArmy("Strict Army"); },
+                                           [&] { ResetArmyData(work, sample_.Store); }};
+  for (const auto& change : changes) {
+    change();
+    EXPECT_FALSE(work == before);
+    work = before;
+    EXPECT_TRUE(work == before);
+  }
 }
 
 TEST_F(NewArmy, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
