@@ -27,9 +27,7 @@ QString Text(const std::string& ansi) {
   return QString::fromStdString(Utf8FromAnsi(ansi));
 }
 
-QImage ReadPicture(const fs::path& folder, const std::string& id) {
-  fs::path file = PathIn(folder, id);
-  if (!FileExists(file)) file = PathIn(folder / "brakka", id);
+QImage ReadPicture(const fs::path& file) {
   QImageReader reader(QString::fromStdU16String(file.u16string()));
   reader.setScaledSize(reader.size().scaled(pictureSide, pictureSide, Qt::KeepAspectRatio));
   return reader.read();
@@ -44,8 +42,9 @@ void DrawCell(QPainter& painter, const QRect& area, const ImageRec& image, const
 
 bool DrawSheet(const fs::path& folder, const QString& target) {
   ImageCatalog catalog;
-  // The Brakka module's catalog takes in the base game's.
-  LoadImages(catalog, Disk(folder), true, "");
+  const Disk disk(folder);
+  constexpr bool brakka = true;  // its catalog takes in the base game's
+  LoadImages(catalog, disk, brakka, "");
   const int rows = (catalog.TotImages.Value() + columns - 1) / columns;
   QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
   sheet.fill(Qt::white);
@@ -56,7 +55,7 @@ bool DrawSheet(const fs::path& folder, const QString& target) {
   for (int i = 0; i < catalog.TotImages.Value(); ++i) {
     const ImageRec& image = catalog.Images[i + 1];
     const QPoint corner(i % columns * cell.width(), i / columns * cell.height());
-    DrawCell(painter, QRect(corner, cell), image, ReadPicture(folder, image.Id));
+    DrawCell(painter, QRect(corner, cell), image, ReadPicture(PictureFile(disk, brakka, image.Id)));
   }
   painter.end();
   return sheet.save(target);

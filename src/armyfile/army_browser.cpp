@@ -20,8 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view ending = ".army";
-
 struct DetailLine {
   std::string_view Caption;
   std::string_view Section;
@@ -54,10 +52,10 @@ void FillArmyList(const ArmyState& state, const Disk& disk, ArmyListForm& form) 
   std::error_code error;
   fs::directory_iterator file(disk.ModuleFolder(state.BrakkaMode), error);
   for (; file != fs::directory_iterator(); file.increment(error)) {
-    if (!file->path().native().ends_with(ending) || !FileExists(file->path())) continue;
+    if (!file->path().native().ends_with(armyEnding) || !FileExists(file->path())) continue;
     std::string name = AnsiFromPath(file->path().filename());
     if (name.find('\\') != std::string::npos) continue;  // would name a file in another folder
-    name.resize(name.size() - ending.size());
+    name.resize(name.size() - armyEnding.size());
     std::string folded = LowerCase(name);
     names.emplace_back(std::move(folded), std::move(name));
   }
@@ -69,7 +67,7 @@ void FillArmyList(const ArmyState& state, const Disk& disk, ArmyListForm& form) 
 void ShowArmyDetail(const ArmyState& state, const Disk& disk, ArmyListForm& form) {
   if (!form.ArmyList.HasSelection()) return;
   const std::string name = form.ArmyList.Text();
-  const fs::path file = PathIn(disk.ModuleFolder(state.BrakkaMode), name + std::string(ending));
+  const fs::path file = ArmyPath(disk.ModuleFolder(state.BrakkaMode), name);
   std::string& text = form.ArmyDetailLabel.Caption;
   text = "";
   for (const auto& [caption, section, key, number] : detailLines) {
@@ -85,7 +83,7 @@ void ShowArmyDetail(const ArmyState& state, const Disk& disk, ArmyListForm& form
 
 bool CheckArmyVersion(const ArmyState& state, const Disk& disk, const std::string& name,
                       std::string& required) {
-  const fs::path file = PathIn(disk.ProgramFolder, name + std::string(ending));
+  const fs::path file = ArmyPath(disk.ProgramFolder, name);
   const std::string version = disk.Files.ReadIniString("EDITOR", "version", file);
   const auto field = [&version](int n) { return LenientNumber(GetField(version, n, ".")); };
   const Version& own = state.EditorVersion;
@@ -117,7 +115,7 @@ void DelArmy_Click(const ArmyState& state, const Disk& disk, Host& host, ArmyLis
   if (!form.ArmyList.HasSelection()) return;
   const std::string name = form.ArmyList.Text();
   if (!host.Question("Do You really want to delete the army " + name + " ?")) return;
-  const fs::path file = PathIn(disk.ProgramFolder, name + std::string(ending));
+  const fs::path file = ArmyPath(disk.ProgramFolder, name);
   std::error_code error;
   if (!FileExists(file) || !fs::remove(file, error)) {
     if (!error) error = std::make_error_code(std::errc::no_such_file_or_directory);

@@ -5,7 +5,6 @@
 #include <array>
 #include <string_view>
 
-#include "base/errors.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "rules/army_state.h"
@@ -28,15 +27,6 @@ constexpr std::array<SpecialRule, 6> specialRules = {{{&ArmyHeader::TribalCheck,
                                                       {&ArmyHeader::FOW, "FOW"},
                                                       {&ArmyHeader::Discipline, "DISCIPLINE"}}};
 
-bool IsNumeric(const std::string& text) {
-  try {
-    StrictNumber(text);
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
-
 /// The checks that both boxes of the period share. `orderMessage` is what a wrong order is told
 /// with.
 bool CheckPeriod(const ArmyHeader& header, Host& host, const std::string& left,
@@ -47,7 +37,7 @@ bool CheckPeriod(const ArmyHeader& header, Host& host, const std::string& left,
     refused = true;
   };
   const std::string rangeMessage = "Please insert a numeric value between 3500 and 0";
-  if (!IsNumeric(left)) refuse(rangeMessage);
+  if (!NumberIn(left)) refuse(rangeMessage);
   const double year = LenientNumber(left);
   if (year > 3500 || year < 0) refuse(rangeMessage);
   const double from = LenientNumber(header.FromData.Text);

@@ -3,6 +3,7 @@
 #include "armyfile/loading.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -47,7 +48,7 @@ class ArmyLoader {
     TakeArmyType(header_, Read("ARMY", "type"));
     ShowPeriod(header_);
     // Setups are kept in the program folder whatever the module.
-    LoadSetupsFromArmy(work_.Field, disk_, PathIn(disk_.ProgramFolder, header_.ArmyFile + ".army"));
+    LoadSetupsFromArmy(work_.Field, disk_, ArmyPath(disk_.ProgramFolder, header_.ArmyFile));
     ShowPanel(army_, Panel::Units);
   }
 
@@ -90,50 +91,43 @@ class ArmyLoader {
 
   bool LoadUnit(Int16 k) {
     const std::string line = Read("ARMY", RowKey("unit", k));
-    const Int16 row = FindRow(line);
-    if (row == 0) {
+    const auto row = FindRow(line);
+    if (!row) {
       host_.Message("Unit number " + NumberText(k) + " not found in " + AnsiFromPath(file_));
       return false;
     }
-    UnitRec& unit = army_.BaseUnits[row];
+    UnitRec& unit = army_.BaseUnits[*row];
     ++unit.Bought;
     army_.PointsSpent += unit.Cost;
     // The class is asked about here, not the type, deliberately.
-    ++(MountedKind(army_, disk_, unit.UnitClass, row) == mounted ? army_.MountedUnits
-                                                                 : army_.FootUnits);
+    ++(MountedKind(army_, disk_, unit.UnitClass, *row) == mounted ? army_.MountedUnits
+                                                                  : army_.FootUnits);
     const std::string picture = GetField(line, 6);
-    const Int16 image = FindImage(picture);
-    if (image == 0) {
+    const auto image = FindImage(picture);
+    if (!image) {
       host_.Message("No image match for unit " + NumberText(k) + " (" + picture + ")");
       return false;
     }
-    unit.ChosenImageIdx = image;
+    unit.ChosenImageIdx = *image;
     return true;
   }
 
-  /// The first row whose five identifying fields are those of the unit line; 0 for none.
-  Int16 FindRow(const std::string& line) const {
-    const std::string type = GetField(line, 1);
-    const std::string unitClass = GetField(line, 2);
-    const std::string tq = GetField(line, 3);
-    const std::string size = GetField(line, 4);
-    const std::string missile = GetField(line, 5);
+  /// The first row that the unit line is of.
+  std::optional<Int16> FindRow(const std::string& line) const {
+    const UnitRec wanted = ParseIdentity(line);
     for (Int16 r = 1;; ++r) {
       const UnitRec& unit = army_.BaseUnits[r];
       // The search ends on the row behind the last one; a full table has none.
-      if (r > army_.TotUnits) return 0;
-      if (unit.UnitType == type && unit.UnitClass == unitClass && unit.TQ == tq &&
-          unit.Size == size && unit.Missile == missile) {
-        return r;
-      }
+      if (r > army_.TotUnits) return std::nullopt;
+      if (SameIdentity(unit, wanted)) return r;
     }
   }
 
-  Int16 FindImage(const std::string& id) const {
+  std::optional<Int16> FindImage(const std::string& id) const {
     for (Int16 j = 1; j <= army_.Catalog.TotImages; ++j) {
       if (army_.Catalog.Images[j].Id == id) return j;
     }
-    return 0;
+    return std::nullopt;
   }
 
   void LoadLeader() {
@@ -206,8 +200,7 @@ void LoadArmy(WorkingArmy& work, Disk& disk, Host& host) {
   const std::string& name = work.Header.ArmyFile;
   if (name.empty()) return;
   work.Army.Management.ArmyFileName.Text = name;
-  ArmyLoader(work, disk, host, PathIn(disk.ModuleFolder(work.Army.BrakkaMode), name + ".army"))
-      .Load();
+  ArmyLoader(work, disk, host, ArmyPath(disk.ModuleFolder(work.Army.BrakkaMode), name)).Load();
 }
 
 }  // namespace tarnwick

@@ -93,11 +93,10 @@ class ArmyWriter {
     WriteKey("TQ", NumberText(troopQuality));
   }
 
-  std::string UnitValue(const UnitRec& unit) const {
+  std::string UnitValue(UnitRec unit) const {
     // "A" is written as "AF" but never read back as "A", deliberately.
-    const std::string missile = unit.Missile == "A" ? "AF" : unit.Missile;
-    std::string value = unit.UnitType + "," + unit.UnitClass + "," + unit.TQ + "," + unit.Size +
-                        "," + missile + "," + army_.Catalog.Images[unit.ChosenImageIdx].Id;
+    if (unit.Missile == "A") unit.Missile = "AF";
+    std::string value = IdentityText(unit) + "," + army_.Catalog.Images[unit.ChosenImageIdx].Id;
     if (!unit.SpecialsKey.empty()) value += "," + unit.SpecialsKey;
     return value;
   }
@@ -125,8 +124,7 @@ std::string ArmyText(const WorkingArmy& work, const std::string& today,
 void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
   const ArmyState& army = work.Army;
   const std::string& name = army.Management.ArmyFileName.Text;
-  const std::string fileName = name + ".army";
-  const auto path = PathIn(disk.ModuleFolder(army.BrakkaMode), fileName);
+  const auto path = ArmyPath(disk.ModuleFolder(army.BrakkaMode), name);
   if (!VerifyArmy(army, host, false)) return;
   if (FileExists(path) &&
       !host.Question("Do you want to replace the existing " + name + ".army file ?")) {
@@ -135,9 +133,9 @@ void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
   PendingFiles files;
   files.Write(path, ArmyText(work, host.Today(), path));
   // Terrain goes to the program folder whatever the module.
-  SaveTerrain(work.Field, files, PathIn(disk.ProgramFolder, fileName));
+  SaveTerrain(work.Field, files, ArmyPath(disk.ProgramFolder, name));
   // Setups go with the name that the army was loaded under.
-  CopySetupsToArmy(disk, files, PathIn(disk.ProgramFolder, work.Header.ArmyFile + ".army"));
+  CopySetupsToArmy(disk, files, ArmyPath(disk.ProgramFolder, work.Header.ArmyFile));
   files.Replace(disk.Files);
   host.Message("Army Saved");
 }

@@ -83,6 +83,14 @@ double StrictNumber(std::string_view text) {
   return *value;
 }
 
+std::optional<double> NumberIn(std::string_view text) {
+  try {
+    return StrictNumber(text);
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
+}
+
 Int16 StrictInt16(std::string_view text) {
   return RoundToInt16(StrictNumber(text));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,9 @@ Int16 LenientInt16(std::string_view text);
 /// The strict conversion: the whole text is one number, with blanks and tabs around it allowed.
 /// Throws TypeMismatchError, or OverflowError for a number too large for a double.
 double StrictNumber(std::string_view text);
+
+/// StrictNumber of a text that is a number that a double can hold; nothing for any other.
+std::optional<double> NumberIn(std::string_view text);
 
 /// StrictNumber, rounded to 16 bits. Throws TypeMismatchError or OverflowError.
 Int16 StrictInt16(std::string_view text);

@@ -52,12 +52,6 @@ std::vector<ProfileText::Entry> StoredSetups(const ProfileFiles& files, const fs
   return entries;
 }
 
-/// What names a unit row on a place and in the list of units.
-std::string DeployText(const UnitRec& unit) {
-  return unit.UnitType + "," + unit.UnitClass + "," + unit.TQ + "," + unit.Size + "," +
-         unit.Missile;
-}
-
 }  // namespace
 
 void LoadSetupsFromArmy(Battlefield& field, Disk& disk, const fs::path& army) {
@@ -114,7 +108,7 @@ void FillDeployList(Battlefield& field, const ArmyState& state) {
   const Int16 last = std::min(state.NumUnits, Int16(decltype(state.BaseUnits)::Last));
   for (Int16 r = 1; r <= last; ++r) {
     if (state.BaseUnits[r].UnitType.empty()) continue;
-    const std::string text = DeployText(state.BaseUnits[r]);
+    const std::string text = IdentityText(state.BaseUnits[r]);
     const bool deployed = std::any_of(panel.unit.begin(), panel.unit.end(),
                                       [&](const Label& place) { return place.Caption == text; });
     if (!deployed) panel.unitList.AddItem(text);

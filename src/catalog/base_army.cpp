@@ -2,18 +2,42 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/base_army.h"
 
+#include <algorithm>
+#include <array>
+
 #include "base/numbers.h"
 #include "base/text.h"
 
 namespace tarnwick {
+namespace {
+
+/// In the order of unit lines in all files.
+constexpr std::array identity = {&UnitRec::UnitType, &UnitRec::UnitClass, &UnitRec::TQ,
+                                 &UnitRec::Size, &UnitRec::Missile};
+
+}  // namespace
+
+std::string IdentityText(const UnitRec& unit) {
+  std::string text;
+  for (const auto field : identity)
+    text.append(unit.*field).append(",");
+  text.pop_back();
+  return text;
+}
+
+UnitRec ParseIdentity(std::string_view line) {
+  UnitRec unit;
+  for (int n = 1; const auto field : identity)
+    unit.*field = GetField(line, n++);
+  return unit;
+}
+
+bool SameIdentity(const UnitRec& a, const UnitRec& b) {
+  return std::ranges::all_of(identity, [&](const auto field) { return a.*field == b.*field; });
+}
 
 UnitRec ParseUnitRow(std::string_view row) {
-  UnitRec unit;
-  unit.UnitType = GetField(row, 1);
-  unit.UnitClass = GetField(row, 2);
-  unit.TQ = GetField(row, 3);
-  unit.Size = GetField(row, 4);
-  unit.Missile = GetField(row, 5);
+  UnitRec unit = ParseIdentity(row);
   unit.Cost = StrictInt16(GetField(row, 6));
   unit.MaxCount = StrictInt16(GetField(row, 7));
   unit.SpecialsKey = GetField(row, 8);

@@ -52,6 +52,16 @@ struct CardRow {
   std::string Maximum;
 };
 
+// Five fields tell a unit's row from others: type, class, TQ, size and missile.
+
+/// They as army files and the places of a setup have them: "HI,Vet,4,2,J".
+std::string IdentityText(const UnitRec& unit);
+
+/// They alone, of a unit line that begins with them.
+UnitRec ParseIdentity(std::string_view line);
+
+bool SameIdentity(const UnitRec& a, const UnitRec& b);
+
 // One row of the catalog each. Cost, maximum and command must be whole numbers or round to them:
 // TypeMismatchError, OverflowError. The minimum of a limit is read leniently.
 

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <utility>
 
+#include "base/ansi.h"
 #include "catalog/profile_files.h"
 
 namespace tarnwick {
@@ -21,5 +24,13 @@ struct Disk {
   std::filesystem::path ProgramFolder;  ///< holds the catalogs and the army files
   ProfileFiles Files;
 };
+
+/// The ending of an army file's name.
+inline constexpr std::string_view armyEnding = ".army";
+
+/// The army file of that name in a folder, or below it.
+inline std::filesystem::path ArmyPath(const std::filesystem::path& folder, std::string_view name) {
+  return PathIn(folder, std::string(name).append(armyEnding));
+}
 
 }  // namespace tarnwick

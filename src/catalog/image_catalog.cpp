@@ -20,6 +20,16 @@ void AppendImages(ImageCatalog& catalog, const ProfileFiles& files,
 
 }  // namespace
 
+bool PictureFits(const ImageRec& image, std::string_view type, std::string_view unitClass,
+                 std::string_view missile) {
+  return image.Type == type && image.Class == unitClass && image.Missile == missile;
+}
+
+std::filesystem::path PictureFile(const Disk& disk, bool brakkaMode, std::string_view id) {
+  const auto file = PathIn(disk.ProgramFolder, id);
+  return FileExists(file) ? file : PathIn(disk.ModuleFolder(brakkaMode), id);
+}
+
 ImageRec ParseImageRow(std::string_view row) {
   return {GetField(row, 1), GetField(row, 2), GetField(row, 3), GetField(row, 4), GetField(row, 5)};
 }
@@ -31,8 +41,8 @@ void LoadImages(ImageCatalog& catalog, const Disk& disk, bool brakkaMode,
                disk.ProgramFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));
 
   // The army file is looked for in the program folder whatever the module.
-  std::string further = disk.Files.ReadIniString(
-      "ARMY", "images", PathIn(disk.ProgramFolder, std::string(armyFile) + ".army"));
+  std::string further =
+      disk.Files.ReadIniString("ARMY", "images", ArmyPath(disk.ProgramFolder, armyFile));
   if (further.empty() && brakkaMode) further = "images.dat";
   if (!further.empty()) AppendImages(catalog, disk.Files, PathIn(disk.ProgramFolder, further));
 }

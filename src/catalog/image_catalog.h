@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,14 @@ struct ImageCatalog {
 
   bool operator==(const ImageCatalog&) const = default;
 };
+
+/// Whether the picture fits a unit of that type, class and missile ability.
+bool PictureFits(const ImageRec& image, std::string_view type, std::string_view unitClass,
+                 std::string_view missile);
+
+/// The file of the picture `id`. What the program folder lacks is looked for in Brakka's folder
+/// when that is the module; it may be missing there, too.
+std::filesystem::path PictureFile(const Disk& disk, bool brakkaMode, std::string_view id);
 
 ImageRec ParseImageRow(std::string_view row);
 

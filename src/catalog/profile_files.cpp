@@ -21,9 +21,6 @@ using FileTime = fs::file_time_type;
 /// More files than an editing session has in use at a time.
 constexpr std::size_t mostKnownFiles = 8;
 
-/// The longest value that a look-up gives back.
-constexpr std::size_t longestValue = 254;
-
 /// Whether a change made after `readAt` would surely have another time stamp than `changedAt`.
 bool StampCanTell(FileTime changedAt, FileTime readAt) {
   using namespace std::chrono_literals;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -13,6 +14,9 @@
 #include "catalog/profile_text.h"
 
 namespace tarnwick {
+
+/// The longest value that a look-up gives back, in bytes.
+inline constexpr std::size_t longestValue = 254;
 
 /// Access to profile files. A file that was read is kept, parsed, for as long as its time stamp
 /// says that it is unchanged.

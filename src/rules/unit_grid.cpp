@@ -86,17 +86,18 @@ void FindUnitsAgain(ArmyState& state, const Disk& disk) {
 }
 
 void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
-  ListBox& list = state.Units.ImageName[line];
+  UnitsPanel& grid = state.Units;
+  ListBox& list = grid.ImageName[line];
   list.Clear();
   for (Int16 m = 1; m <= state.Catalog.TotImages; ++m) {
     const ImageRec& image = state.Catalog.Images[m];
-    if (image.Type == state.Units.TypeLabel[line].Caption &&
-        image.Missile == state.Units.MissileLabel[line].Caption &&
-        image.Class == state.Units.ClassLabel[line].Caption) {
-      list.AddItem(image.Name, m);
-      if (list.ListIndex == -1 && m == state.BaseUnits[row].ChosenImageIdx) {
-        list.ListIndex = static_cast<int>(list.Entries.size()) - 1;
-      }
+    if (!PictureFits(image, grid.TypeLabel[line].Caption, grid.ClassLabel[line].Caption,
+                     grid.MissileLabel[line].Caption)) {
+      continue;
+    }
+    list.AddItem(image.Name, m);
+    if (list.ListIndex == -1 && m == state.BaseUnits[row].ChosenImageIdx) {
+      list.ListIndex = static_cast<int>(list.Entries.size()) - 1;
     }
   }
   if (list.Entries.empty()) return;
@@ -126,8 +127,7 @@ void ViewBtn_Click(const ArmyState& state, const Disk& disk, Host& host, Int16 l
   const ListBox& list = state.Units.ImageName[line];
   if (!list.HasSelection()) return;
   const std::string& picture = state.Catalog.Images[list.Selected().ItemData].Id;
-  auto path = PathIn(disk.ProgramFolder, picture);
-  if (!FileExists(path) && state.BrakkaMode) path = PathIn(disk.ProgramFolder / "brakka", picture);
+  const auto path = PictureFile(disk, state.BrakkaMode, picture);
   if (FileExists(path)) {
     host.ShowPicture(path);
   } else {

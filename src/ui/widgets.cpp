@@ -14,13 +14,11 @@
 #include "base/ansi.h"
 #include "base/errors.h"
 #include "base/numbers.h"
+#include "catalog/profile_files.h"
 #include "ui/qt_text.h"
 
 namespace tarnwick {
 namespace {
-
-/// What a line of a file gives back at the most, in bytes.
-constexpr int longestValue = 254;
 
 /// File systems take 255 bytes as a name, of which the ending needs some.
 constexpr std::size_t longestFileName = 246;
@@ -66,7 +64,7 @@ class DescriptionBox : public QPlainTextEdit {
   /// line of the file can't hold.
   void CutInsertion() {
     const QString text = PlainText(*this);
-    int excess = -longestValue;
+    int excess = -static_cast<int>(longestValue);
     for (const QChar c : text)
       excess += StoredSize(c);
     QTextCursor cursor = textCursor();

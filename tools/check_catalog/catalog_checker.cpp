@@ -30,15 +30,6 @@ constexpr int mostCodes = 10;
 /// The cards that loading an army asks for.
 const std::set<std::string> knownCards = {"RALLY", "FLANK", "COHESION", "MISSILE", "CALTROP"};
 
-bool IsNumber(const std::string& text) {
-  try {
-    StrictNumber(text);
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
-
 /// Checks the catalogs of one module.
 class ModuleCheck {
  public:
@@ -101,9 +92,7 @@ void ModuleCheck::CheckImage(int i, const std::function<bool(const fs::path&)>& 
              " too; loading an army finds the first.");
     }
   }
-  fs::path picture = PathIn(disk_.ProgramFolder, image.Id);
-  if (!FileExists(picture) && state_.BrakkaMode)
-    picture = PathIn(disk_.ModuleFolder(true), image.Id);
+  const fs::path picture = PictureFile(disk_, state_.BrakkaMode, image.Id);
   if (!FileExists(picture)) {
     report("The picture " + image.Id + " is missing.");
   } else if (!canShow(picture)) {
@@ -160,9 +149,7 @@ std::vector<UnitRec> ModuleCheck::CheckUnits(const std::string& army) {
     units.push_back(ParseUnitRow(row));
     const UnitRec& unit = units.back();
     CheckUnit(army, key, unit);
-    const std::string line =
-        unit.UnitType + "," + unit.UnitClass + "," + unit.TQ + "," + unit.Size + "," + unit.Missile;
-    const auto [first, isNew] = lines.try_emplace(line, key);
+    const auto [first, isNew] = lines.try_emplace(IdentityText(unit), key);
     if (!isNew) {
       armies_.Report(army, key, "Loading an army can't tell the row from " + first->second + ".");
     }
@@ -177,15 +164,14 @@ void ModuleCheck::CheckUnit(const std::string& army, const std::string& key,
   if (unit.UnitType == "CO" && UnitTypeCode("CO", unit.UnitClass) == 0) {
     report("The class \"" + unit.UnitClass + "\" of CO is unknown: Vet, Con or Rec.");
   }
-  if (!IsNumber(unit.TQ)) report("The TQ \"" + unit.TQ + "\" is no number.");
-  if (!IsNumber(unit.Size)) report("The size \"" + unit.Size + "\" is no number.");
+  if (!NumberIn(unit.TQ)) report("The TQ \"" + unit.TQ + "\" is no number.");
+  if (!NumberIn(unit.Size)) report("The size \"" + unit.Size + "\" is no number.");
   if (unit.Missile == "A") report(R"(The missile "A" is saved as "AF" and never found again.)");
   const bool pictured =
       std::any_of(state_.Catalog.Images.begin(),
                   state_.Catalog.Images.begin() + state_.Catalog.TotImages.Value(),
                   [&unit](const ImageRec& image) {
-                    return image.Type == unit.UnitType && image.Class == unit.UnitClass &&
-                           image.Missile == unit.Missile;
+                    return PictureFits(image, unit.UnitType, unit.UnitClass, unit.Missile);
                   });
   if (!pictured) report("No picture fits the row; a unit of it could not be saved.");
   if (!unit.SpecialsKey.empty()) CheckSpecials(army, key, unit.SpecialsKey);

@@ -5,30 +5,18 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <optional>
 
 #include "base/ansi.h"
-#include "base/errors.h"
 #include "catalog/profile_text.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr std::size_t longestValue = 254;
 
 /// Whether the text holds one of the five bytes that Windows-1252 leaves free, or is UTF-8.
 bool OutsideCodePage(std::string_view text) {
   if (text.find_first_of("\x81\x8D\x8F\x90\x9D") != std::string_view::npos) return true;
   const bool ascii = std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
   return !ascii && Utf8FromAnsi(AnsiFromUtf8(text)) == text;
-}
-
-std::optional<double> Number(const std::string& text) {
-  try {
-    return StrictNumber(text);
-  } catch (const RuntimeError&) {
-    return std::nullopt;
-  }
 }
 
 }  // namespace
@@ -59,7 +47,7 @@ int FileCheck::CheckCount(std::string_view section, std::string_view key, int mo
     Report(section, key, "The count is missing.");
     return 0;
   }
-  const auto count = Number(text);
+  const auto count = NumberIn(text);
   if (!count || *count != Int(*count) || *count < 0 || *count > most) {
     Report(section, key,
            "The count \"" + text + "\" is no whole number from 0 to " + std::to_string(most) + ".");
@@ -83,7 +71,7 @@ std::vector<std::string> FileCheck::CheckRows(std::string_view section, std::str
 
 bool FileCheck::CheckWhole(std::string_view section, std::string_view key, std::string_view field,
                            const std::string& text, int least, int most) const {
-  const auto number = Number(text);
+  const auto number = NumberIn(text);
   if (number && *number == Int(*number) && *number >= least && *number <= most) return true;
   Report(section, key,
          "The " + std::string(field) + " \"" + text + "\" is no whole number from " +
