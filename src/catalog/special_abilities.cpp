@@ -5,11 +5,6 @@
 #include "base/text.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr int mostCodes = 10;
-
-}  // namespace
 
 std::string SpecialAbilities::List(std::string_view group) const {
   return files_.ReadIniString(group, "special", file_);

@@ -10,6 +10,9 @@
 
 namespace tarnwick {
 
+/// How many codes of a group are looked at.
+inline constexpr int mostCodes = 10;
+
 /// The catalog of special abilities, which both modules share.
 class SpecialAbilities {
  public:

@@ -5,21 +5,10 @@
 #include <string>
 
 #include "base/numbers.h"
-#include "rules/unit_types.h"
+#include "rules/limits.h"
 
 namespace tarnwick {
 namespace {
-
-using Counters = Table<Int16, 0, 200>;
-
-Counters CountUnits(const ArmyState& state) {
-  Counters counters;
-  for (Int16 r = 1; r <= state.TotUnits; ++r) {
-    const UnitRec& unit = state.BaseUnits[r];
-    if (unit.Bought > 0) counters[UnitTypeCode(unit.UnitType, unit.UnitClass)] += unit.Bought;
-  }
-  return counters;
-}
 
 /// A limit with a class counts its alternative type too but names the class alone.
 std::string LimitMessage(const LimitRec& limit, const std::string& minimum) {
@@ -32,13 +21,11 @@ std::string LimitMessage(const LimitRec& limit, const std::string& minimum) {
 }  // namespace
 
 bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
-  const Counters counters = CountUnits(state);
+  const UnitCounts counts = CountUnits(state);
   for (Int16 j = 0; j < state.TotLimits; ++j) {
     const LimitRec& limit = state.Limits[LenientInt16(state.Units.TypeLimit[j].Tag)];
     const std::string& minimum = state.Units.MinLimit[j].Caption;
-    Int16 count = counters[UnitTypeCode(limit.TypeA, limit.Class)];
-    if (!limit.TypeB.empty()) count += counters[UnitTypeCode(limit.TypeB, "")];
-    if (LenientNumber(minimum) > count.Value()) {
+    if (LenientNumber(minimum) > CountFor(limit, counts).Value()) {
       host.Message(LimitMessage(limit, minimum));
       return false;
     }

@@ -14,10 +14,10 @@
 #include "battlefield/terrain.h"
 #include "rules/base_army_selection.h"
 #include "rules/leaders.h"
+#include "rules/limits.h"
 #include "rules/special_cards.h"
 #include "rules/unit_grid.h"
 #include "rules/unit_purchase.h"
-#include "rules/unit_types.h"
 #include "rules/verification.h"
 #include "support/sample_army.h"
 
@@ -87,15 +87,8 @@ class Player : public Desk {
     int most = 0;
     for (Int16 j = 1; j <= army_.TotLimits; ++j) {
       const LimitRec& limit = army_.Limits[j];
-      const auto counts = [&](const UnitRec& unit) {
-        const Int16 code = UnitTypeCode(unit.UnitType, unit.UnitClass);
-        return code == UnitTypeCode(limit.TypeA, limit.Class) ||
-               (!limit.TypeB.empty() && code == UnitTypeCode(limit.TypeB, ""));
-      };
-      int open = limit.Minimum.Value();
-      for (Int16 r = 1; r <= army_.TotUnits; ++r)
-        open -= counts(army_.BaseUnits[r]) ? army_.BaseUnits[r].Bought.Value() : 0;
-      if (counts(army_.BaseUnits[row])) most = std::max(most, open);
+      const Int16 open = limit.Minimum - CountFor(limit, CountUnits(army_));
+      if (CountFor(limit, army_.BaseUnits[row]) > 0) most = std::max(most, open.Value());
     }
     return std::min(most, army_.BaseUnits[row].MaxCount.Value());
   }

@@ -11,6 +11,7 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "catalog/image_catalog.h"
+#include "catalog/special_abilities.h"
 #include "check_catalog/cheapest_army.h"
 #include "check_catalog/check.h"
 #include "rules/army_state.h"
@@ -22,10 +23,13 @@ namespace {
 namespace fs = std::filesystem;
 
 // What the window has room for.
-constexpr int mostUnits = 200, mostPerView = 23, mostLimits = 7, mostLeaders = 7, cards = 4;
-constexpr int mostImages = 200;
+constexpr int mostUnits = decltype(ArmyState::BaseUnits)::Last;
+constexpr int mostPerView = decltype(UnitsPanel::Buy)::Last + 1;
+constexpr int mostLimits = decltype(UnitsPanel::TypeLimit)::Last + 1;
+constexpr int mostLeaders = decltype(CommandPanel::LeaderName)::Last + 1;
+constexpr int mostImages = decltype(ImageCatalog::Images)::Last;
+constexpr int cards = 4;
 constexpr int largest = 32767;
-constexpr int mostCodes = 10;
 
 /// The cards that loading an army asks for.
 const std::set<std::string> knownCards = {"RALLY", "FLANK", "COHESION", "MISSILE", "CALTROP"};

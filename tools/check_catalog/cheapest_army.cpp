@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <map>
 
-#include "rules/unit_types.h"
+#include "rules/limits.h"
 
 namespace tarnwick {
 namespace {
@@ -16,19 +16,12 @@ using Open = std::vector<int>;
 /// More states than any sensible catalog has.
 constexpr std::size_t mostStates = 200000;
 
-bool Counts(const LimitRec& limit, const UnitRec& unit) {
-  const Int16 code = UnitTypeCode(unit.UnitType, unit.UnitClass);
-  return code == UnitTypeCode(limit.TypeA, limit.Class) ||
-         (!limit.TypeB.empty() && code == UnitTypeCode(limit.TypeB, ""));
-}
-
-/// One more unit of the row. False when no limit needs it any more.
-bool Take(Open& open, const UnitRec& unit, const std::vector<LimitRec>& limits) {
+/// One more unit, which counts so much for each limit. False when no limit needs it any more.
+bool Take(Open& open, const std::vector<int>& counted) {
   bool useful = false;
-  for (std::size_t i = 0; i < limits.size(); ++i) {
-    if (open[i] == 0 || !Counts(limits[i], unit)) continue;
-    --open[i];
-    useful = true;
+  for (std::size_t i = 0; i < open.size(); ++i) {
+    useful |= open[i] > 0 && counted[i] > 0;
+    open[i] = std::max(0, open[i] - counted[i]);
   }
   return useful;
 }
@@ -42,12 +35,15 @@ std::optional<int> CheapestLegalArmy(const std::vector<UnitRec>& units,
     start.push_back(std::max(0, limit.Minimum.Value()));
   std::map<Open, int> cheapest = {{start, 0}};
   for (const UnitRec& unit : units) {
+    std::vector<int> counted;
+    for (const LimitRec& limit : limits)
+      counted.push_back(CountFor(limit, unit).Value());
     // Row by row: every state so far, with none to all of the row's units added.
     std::map<Open, int> next = cheapest;
     for (const auto& [open, cost] : cheapest) {
       Open state = open;
       int price = cost;
-      for (int copy = 0; copy < unit.MaxCount.Value() && Take(state, unit, limits); ++copy) {
+      for (int copy = 0; copy < unit.MaxCount.Value() && Take(state, counted); ++copy) {
         price += unit.Cost.Value();
         const auto [found, isNew] = next.try_emplace(state, price);
         if (!isNew) found->second = std::min(found->second, price);
