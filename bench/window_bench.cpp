@@ -23,9 +23,9 @@
 #include "armyfile/working_army.h"
 #include "quiet_host.h"
 #include "rules/unit_purchase.h"
-#include "ui/application_style.h"
 #include "ui/main_form.h"
-#include "ui/session.h"
+#include "ui/parts/application_style.h"
+#include "ui/parts/session.h"
 
 namespace tarnwick {
 namespace {

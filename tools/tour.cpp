@@ -12,10 +12,10 @@
 #include <QApplication>
 #include <QLabel>
 
-#include "ui/application_style.h"
 #include "ui/form_host.h"
 #include "ui/main_form.h"
-#include "ui/session.h"
+#include "ui/parts/application_style.h"
+#include "ui/parts/session.h"
 #include "window_driver.h"
 
 namespace tarnwick {

@@ -7,13 +7,13 @@
 #include <QMessageBox>
 
 #include "rules/unit_types.h"
-#include "ui/army_list_dialog.h"
-#include "ui/army_selection_dialog.h"
-#include "ui/leader_dialog.h"
-#include "ui/picture_form.h"
-#include "ui/qt_text.h"
-#include "ui/session.h"
-#include "ui/special_dialog.h"
+#include "ui/dialogs/army_list_dialog.h"
+#include "ui/dialogs/army_selection_dialog.h"
+#include "ui/dialogs/leader_dialog.h"
+#include "ui/dialogs/picture_form.h"
+#include "ui/dialogs/special_dialog.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
 
 namespace tarnwick {
 namespace {

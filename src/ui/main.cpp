@@ -3,10 +3,10 @@
 #include <QApplication>
 
 #include "armyfile/working_army.h"
-#include "ui/application_style.h"
 #include "ui/form_host.h"
 #include "ui/main_form.h"
-#include "ui/session.h"
+#include "ui/parts/application_style.h"
+#include "ui/parts/session.h"
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;

@@ -18,11 +18,11 @@
 #include <QTest>
 
 #include "support/temp_folder.h"
-#include "ui/application_style.h"
 #include "ui/form_host.h"
 #include "ui/main_form.h"
-#include "ui/qt_text.h"
-#include "ui/session.h"
+#include "ui/parts/application_style.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
 #include "window_driver.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) {

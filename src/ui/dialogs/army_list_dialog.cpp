@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/dialogs/army_list_dialog.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/parts/session.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+
+ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
+    : QDialog(parent), session_(session) {
+  setObjectName("ArmyListForm");
+  setWindowTitle("Army List");
+  auto* list = Named(new QListWidget(this), "ArmyList");
+  list->setUniformItemSizes(true);
+  list->setMinimumSize(TextWidth(list, 36), 360);
+  auto* frame = NewFrame("", "Army Detail ", this);
+  auto* detail = NewLabel("ArmyDetailLabel", "", frame);
+  detail->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  detail->setWordWrap(true);
+  detail->setMinimumWidth(TextWidth(detail, 40));
+  (new QVBoxLayout(frame))->addWidget(detail);
+  auto* select = Named(new QPushButton("Select Army", this), "Command1");
+  auto* remove = Named(new QPushButton("Delete Army", this), "DelArmy");
+  select->setDefault(true);
+  remove->setAutoDefault(false);
+
+  auto* lists = new QHBoxLayout;
+  lists->addWidget(list, 1);
+  lists->addWidget(frame, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(remove);
+  buttons->addStretch();
+  buttons->addWidget(select);
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(lists);
+  layout->addLayout(buttons);
+
+  FillArmyList(session_.Work.Army, session_.Store, form_);
+  bindings_.Add(list, form_.ArmyList);
+  bindings_.Add(detail, form_.ArmyDetailLabel);
+  bindings_.Refresh();
+
+  connect(list, &QListWidget::itemSelectionChanged, this,
+          [this] { Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); }); });
+  OnDoubleClick(list, [this] {
+    Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); });
+    Select();
+  });
+  connect(select, &QPushButton::clicked, this, &ArmyListDialog::Select);
+  connect(remove, &QPushButton::clicked, this, [this] {
+    Run([this] { DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_); });
+  });
+}
+
+void ArmyListDialog::Run(const std::function<void()>& operation) {
+  if (session_.Run(operation)) bindings_.Refresh();
+}
+
+void ArmyListDialog::Select() {
+  Run([this] {
+    if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
+  });
+}
+
+}  // namespace tarnwick

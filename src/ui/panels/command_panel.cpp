@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panels/command_panel.h"
+
+#include <QGridLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "rules/leaders.h"
+#include "rules/special_cards.h"
+#include "ui/parts/application_style.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+namespace {
+
+/// A general's standard.
+QIcon StandardIcon() {
+  constexpr int side = 64;
+  QPixmap pixmap(side, side);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillRect(10, 4, 6, 58, Qt::darkGray);
+  painter.setBrush(AccentColour());
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(QPolygon({{16, 8}, {56, 8}, {46, 21}, {56, 34}, {16, 34}}));
+  return pixmap;
+}
+
+}  // namespace
+
+CommandPanelWidget::CommandPanelWidget(Session& session)
+    : PanelWidget(Panel::Command, "Command", session) {
+  auto* frames = new QHBoxLayout;
+  frames->addWidget(NewLeaderFrame(), 3, Qt::AlignTop);
+  frames->addWidget(NewSpecialFrame(), 2, Qt::AlignTop);
+  Body()->addLayout(frames);
+  Body()->addStretch();
+}
+
+void CommandPanelWidget::Refresh() {
+  while (cardRowCount_ < session_.Work.Army.Command.SpecBuy.Count())
+    AddCardRow();
+  PanelWidget::Refresh();
+}
+
+QWidget* CommandPanelWidget::NewLeaderFrame() {
+  CommandPanel& command = session_.Work.Army.Command;
+  auto* frame = NewFrame("LeaderFrame", "", this);
+  auto* layout = new QVBoxLayout(frame);
+  auto* heading = NewLabel("Label4", "Name: $$  initiative/command", frame);
+  heading->setForegroundRole(QPalette::PlaceholderText);
+  layout->addWidget(heading);
+  QButtonGroup* leaders = NewOptions("LeaderName", 7, frame);
+  for (QAbstractButton* leader : leaders->buttons()) {
+    leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addWidget(leader);
+  }
+  auto* define = Named(new QPushButton(StandardIcon(), "Add a new Leader", frame), "LeaderBtn");
+  define->setToolTip("Add New Leader");
+  layout->addSpacing(8);
+  layout->addWidget(define, 0, Qt::AlignLeft);
+
+  bindings_.Add(leaders, command.LeaderName);
+  bindings_.Add([frame, &caption = command.LeaderFrame.Caption] {
+    if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
+  });
+  connect(leaders, &QButtonGroup::idClicked, this, [this](int index) {
+    session_.Run([this, index] { LeaderName_Click(session_.Work.Army, session_.User, index); });
+  });
+  connect(define, &QPushButton::clicked, this,
+          [this] { session_.Run([this] { session_.User.ShowLeaderMgmtForm(); }); });
+  return frame;
+}
+
+QWidget* CommandPanelWidget::NewSpecialFrame() {
+  cards_ = NewFrame("SpecialFrame", "Special cards ", this);
+  cardRows_ = new QGridLayout(cards_);
+  const char* const captions[] = {"Card", "$$", "Max", "Buy"};
+  for (int column = 0; column < 4; ++column) {
+    auto* heading = NewLabel(QString("Label%1").arg(5 + column), captions[column], cards_);
+    heading->setForegroundRole(QPalette::PlaceholderText);
+    if (column > 0) heading->setAlignment(Qt::AlignRight);
+    cardRows_->addWidget(heading, 0, column);
+  }
+  cardRows_->setColumnStretch(0, 1);
+  cardRows_->setHorizontalSpacing(18);
+  return cards_;
+}
+
+void CommandPanelWidget::AddCardRow() {
+  CommandPanel& command = session_.Work.Army.Command;
+  const int j = cardRowCount_++;
+  auto* name = NewLabel(ElementName("SpecNameLabel", j), "", cards_);
+  auto* cost = NewNumberLabel(ElementName("SpecCostLabel", j), cards_);
+  auto* most = NewNumberLabel(ElementName("SpecMaxLabel", j), cards_);
+  auto* quantity = NewQuantityBox(ElementName("SpecBuy", j), cards_);
+  quantity->setFixedWidth(TextWidth(quantity, 7));
+  int column = 0;
+  for (QWidget* widget : {static_cast<QWidget*>(name), static_cast<QWidget*>(cost),
+                          static_cast<QWidget*>(most), static_cast<QWidget*>(quantity)}) {
+    cardRows_->addWidget(widget, j + 1, column++);
+  }
+  bindings_.Add(name, command.SpecNameLabel[j]);
+  bindings_.Add(cost, command.SpecCostLabel[j]);
+  bindings_.Add(most, command.SpecMaxLabel[j]);
+  bindings_.Add(quantity, command.SpecBuy[j]);
+  session_.Guard.Watch(quantity, [this, j] {
+    return session_.Allows([&] { return !SpecBuy_Validate(session_.Work.Army, session_.User, j); });
+  });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/panels/panel_widget.h"
+
+class QGridLayout;
+
+namespace tarnwick {
+
+/// Panel 1: leaders and special cards.
+class CommandPanelWidget : public PanelWidget {
+ public:
+  explicit CommandPanelWidget(Session& session);
+
+  void Refresh() override;
+
+ private:
+  QWidget* NewLeaderFrame();
+  QWidget* NewSpecialFrame();
+  void AddCardRow();
+
+  QWidget* cards_ = nullptr;
+  QGridLayout* cardRows_ = nullptr;
+  int cardRowCount_ = 0;
+};
+
+}  // namespace tarnwick

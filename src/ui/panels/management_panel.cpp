@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panels/management_panel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "armyfile/loading.h"
+#include "armyfile/saving.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+
+ManagementPanelWidget::ManagementPanelWidget(Session& session)
+    : PanelWidget(Panel::Management, "Army Managemet", session) {
+  Body()->addWidget(NewModuleFrame());
+  Body()->addWidget(NewNameFrame());
+  Body()->addWidget(NewButtons());
+  Body()->addStretch();
+}
+
+QWidget* ManagementPanelWidget::NewModuleFrame() {
+  auto* frame = NewFrame("Frame10", "Module", this);
+  auto* layout = new QHBoxLayout(frame);
+  QButtonGroup* modules = NewOptions("modOption", 2, frame);
+  for (QAbstractButton* option : modules->buttons())
+    layout->addWidget(option);
+  layout->addStretch();
+  bindings_.Add(modules, session_.Work.Army.Management.modOption);
+  connect(modules, &QButtonGroup::idClicked, this,
+          [this] { session_.Run([this] { modOption_Click(session_.Work, session_.Store); }); });
+  return frame;
+}
+
+QWidget* ManagementPanelWidget::NewNameFrame() {
+  ManagementPanel& management = session_.Work.Army.Management;
+  auto* frame = NewFrame("", "Army", this);
+  auto* name = NewTextBox("ArmyName", frame);
+  auto* file = NewFileNameBox("ArmyFileName", frame);
+  auto* fileHint = NewLabel("NewArmyFile", "", frame);
+  fileHint->setForegroundRole(QPalette::PlaceholderText);
+  name->setMinimumWidth(TextWidth(name, 48));
+
+  auto* layout = new QGridLayout(frame);
+  layout->addWidget(NewLabel("Label18", "Army Name", frame), 0, 0);
+  layout->addWidget(name, 0, 1);
+  layout->addWidget(NewLabel("Label19", "File", frame), 1, 0);
+  layout->addWidget(file, 1, 1);
+  layout->addWidget(fileHint, 1, 2);
+  layout->setColumnStretch(2, 1);
+
+  bindings_.Add(name, management.ArmyName);
+  bindings_.Add(file, management.ArmyFileName);
+  bindings_.Add([fileHint, this] {
+    fileHint->setText(session_.Work.Army.BrakkaMode ? ".army in the folder brakka" : ".army");
+  });
+  return frame;
+}
+
+QWidget* ManagementPanelWidget::NewButtons() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 8, 0, 0);
+  const auto add = [&](const char* name, const char* caption) {
+    auto* button = Named(new QPushButton(caption, row), name);
+    button->setMinimumSize(TextWidth(button, 18), button->fontMetrics().height() * 2);
+    layout->addWidget(button);
+    return button;
+  };
+  auto* newArmy = add("NewArmyBtn", "New army");
+  auto* load = add("LoadBtn", "Load army");
+  auto* save = add("SaveBtn", "Save Army");
+  layout->addStretch();
+  setFocusProxy(newArmy);
+  connect(newArmy, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.Store, session_.User); });
+  });
+  connect(load, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { LoadBtn_Click(session_.Work, session_.Store, session_.User); });
+  });
+  connect(save, &QPushButton::clicked, this, [this] {
+    session_.Run([this] { SaveArmy(session_.Work, session_.Store, session_.User); });
+  });
+  return row;
+}
+
+}  // namespace tarnwick

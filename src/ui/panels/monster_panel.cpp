@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panels/monster_panel.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/parts/session.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+
+MonsterPanelWidget::MonsterPanelWidget(Session& session)
+    : PanelWidget(Panel::MonsterLaboratory, "Monster Laboratory", session) {
+  auto* lists = new QFormLayout;
+  lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  MonsterPanel& monster = session.Work.Army.Monster;
+  const auto addList = [&](const char* name, const char* caption, ListBox& control) {
+    auto* list = Named(new QComboBox(this), name);
+    list->setMinimumContentsLength(6);
+    lists->addRow(caption, list);
+    bindings_.Add(list, control);
+  };
+  addList("M_Size", "Size", monster.M_Size);
+  addList("M_TQ", "TQ", monster.M_TQ);
+  addList("M_Type", "Type", monster.M_Type);
+  Body()->addLayout(lists);
+
+  auto* buttons = new QHBoxLayout;
+  const QString tip = "Armies are saved and loaded on the panel Load/Save";
+  auto* newMonster = Named(new QPushButton("New army", this), "NewMonsterBtn");
+  buttons->addWidget(newMonster);
+  buttons->addWidget(NewIdleButton("Command5", "Load army", tip, this));
+  buttons->addWidget(NewIdleButton("Command4", "Save Army", tip, this));
+  buttons->addStretch();
+  Body()->addLayout(buttons);
+  Body()->addStretch();
+
+  connect(newMonster, &QPushButton::clicked, this,
+          [this] { session_.Run([this] { NewMonster(session_.Work.Army.Monster); }); });
+}
+
+}  // namespace tarnwick

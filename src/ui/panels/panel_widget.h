@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+#include "rules/army_state.h"
+#include "ui/parts/bindings.h"
+
+class QVBoxLayout;
+
+namespace tarnwick {
+
+class Session;
+
+/// One of the panels `EditFrame`: its caption on top, its contents below.
+class PanelWidget : public QWidget {
+ public:
+  PanelWidget(Panel panel, const QString& caption, Session& session);
+
+  /// Shows the state.
+  virtual void Refresh() { bindings_.Refresh(); }
+
+ protected:
+  QVBoxLayout* Body() { return body_; }
+
+  Session& session_;
+  Bindings bindings_;
+
+ private:
+  QVBoxLayout* body_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panels/setup_panel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "battlefield/setups.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+
+SetupPanelWidget::SetupPanelWidget(Session& session) : PanelWidget(Panel::Setup, "Setup", session) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(18);
+  row->addWidget(NewSetupList());
+  row->addWidget(NewSetupFrame(), 1);
+  row->addStretch();
+  Body()->addLayout(row, 1);
+}
+
+QWidget* SetupPanelWidget::NewSetupList() {
+  auto* side = new QWidget(this);
+  auto* layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* list = Named(new QListWidget(side), "setupList");
+  auto* create = Named(new QPushButton("New Setup", side), "Command6");
+  auto* remove = Named(new QPushButton("Delete Setup", side), "Command3");
+  layout->addWidget(list, 1);
+  layout->addWidget(create);
+  layout->addWidget(remove);
+  side->setFixedWidth(TextWidth(side, 20));
+
+  bindings_.Add(list, session_.Work.Field.Setup.setupList);
+  connect(list, &QListWidget::itemSelectionChanged, this, [this] {
+    session_.Run(
+        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
+  });
+  // An entry that is selected already shows its setup again, as after the panel hid it.
+  const auto choose = [this] {
+    session_.Run(
+        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
+  };
+  connect(list, &QListWidget::itemClicked, this, choose);
+  connect(list, &QListWidget::itemActivated, this, choose);
+  Connect(create,
+          [this] { Command6_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
+  Connect(remove, [this] { Command3_Click(session_.Work.Army); });
+  return side;
+}
+
+QWidget* SetupPanelWidget::NewSetupFrame() {
+  SetupPanel& setup = session_.Work.Field.Setup;
+  auto* frame = Named(new QWidget(this), "setupFramePanel");
+  auto* layout = new QGridLayout(frame);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setHorizontalSpacing(18);
+  layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
+  layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
+  layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
+  auto* units = Named(new QListWidget(frame), "unitList");
+  units->setMinimumWidth(TextWidth(units, 28));
+  layout->addWidget(units, 0, 1, 3, 1);
+  layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0, 1, 2);
+  auto* description = NewDescriptionBox("description", 2, frame);
+  layout->addWidget(description, 4, 0, 1, 2);
+  layout->setRowStretch(4, 1);
+
+  bindings_.AddVisible(frame, setup.setupFramePanel.Visible);
+  bindings_.Add(units, setup.unitList);
+  bindings_.Add(description, setup.description);
+  connect(description, &QPlainTextEdit::textChanged, this, [this] {
+    session_.Run(
+        [this] { description_Change(session_.Work.Field, session_.Work.Army, session_.Store); });
+  });
+  return frame;
+}
+
+QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlace, int lastPlace,
+                                   QWidget* parent) {
+  auto* zone = new QFrame(parent);
+  zone->setFrameStyle(QFrame::StyledPanel);
+  auto* layout = new QGridLayout(zone);
+  layout->setVerticalSpacing(2);
+  auto* name = NewLabel(ElementName("Label1", index), caption, zone);
+  name->setMinimumWidth(TextWidth(name, 9));
+  layout->addWidget(name, 0, 0);
+  for (int place = firstPlace; place <= lastPlace; ++place) {
+    auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
+    assign->setFixedWidth(TextWidth(assign, 6));
+    auto* unit = NewLabel(ElementName("unit", place), "", zone);
+    unit->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    unit->setAutoFillBackground(true);
+    unit->setBackgroundRole(QPalette::Base);
+    unit->setMinimumWidth(TextWidth(unit, 26));
+    layout->addWidget(assign, place - firstPlace, 1);
+    layout->addWidget(unit, place - firstPlace, 2);
+    bindings_.Add(unit, session_.Work.Field.Setup.unit[place]);
+    Connect(assign, [this, place] {
+      assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.Store, session_.User,
+                      place);
+    });
+  }
+  layout->setColumnStretch(2, 1);
+  return zone;
+}
+
+void SetupPanelWidget::Connect(QAbstractButton* button, const std::function<void()>& operation) {
+  connect(button, &QAbstractButton::clicked, this, [this, operation] { session_.Run(operation); });
+}
+
+}  // namespace tarnwick

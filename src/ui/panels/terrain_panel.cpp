@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/panels/terrain_panel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "battlefield/terrain.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
+#include "ui/parts/terrain_tile.h"
+#include "ui/parts/widgets.h"
+
+/// Makes the library's pictures known. The macro must stand outside of all namespaces.
+static void InitPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
+
+namespace tarnwick {
+namespace {
+
+constexpr int pieceSide = 64;
+constexpr int areaSide = 128;
+
+}  // namespace
+
+TerrainPanelWidget::TerrainPanelWidget(Session& session)
+    : PanelWidget(Panel::Terrain, "Terrain", session) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(24);
+  row->addWidget(NewPalette(), 0, Qt::AlignTop);
+  row->addWidget(NewAreas(), 0, Qt::AlignTop);
+  auto* side = new QVBoxLayout;
+  side->addWidget(NewPointsFrame());
+  side->addWidget(
+      NewIdleButton("Command2", "Update",
+                    "The points are always up to date. An area cleared by New army, "
+                    "Reset or Load keeps its old picture until a piece is dropped on it.",
+                    this));
+  side->addStretch();
+  row->addLayout(side);
+  row->addStretch();
+  Body()->addLayout(row);
+  Body()->addStretch();
+}
+
+void TerrainPanelWidget::showEvent(QShowEvent* event) {
+  // Reading the pictures would only hold up the start of the program.
+  if (pictures_[0].isNull()) {
+    InitPictures();
+    for (std::size_t kind = 0; kind < pictures_.size(); ++kind) {
+      const QIcon picture(QString(":/terrain/%1.svg").arg(kind));
+      pictures_.at(kind) = picture.pixmap(QSize(areaSide, areaSide), devicePixelRatio());
+    }
+    Refresh();
+  }
+  PanelWidget::showEvent(event);
+}
+
+void TerrainPanelWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) Pick(-1);
+  PanelWidget::keyPressEvent(event);
+}
+
+QWidget* TerrainPanelWidget::NewPalette() {
+  const char* const captions[] = {"Clear",         "Slope  30ap/5cp",    "Camp 60ap/10cp",
+                                  "Wood 20ap/0cp", "Mountain 50ap/15cp", "Cliff 150ap/0cp"};
+  auto* palette = new QWidget(this);
+  auto* layout = new QGridLayout(palette);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (int kind = 0; kind < 6; ++kind) {
+    auto* piece = new TerrainTile(ElementName("TerrImg", kind), pieceSide, palette);
+    piece->MakePiece(kind);
+    piece->setToolTip("Drag onto an area, or click here and then the area");
+    pieces_.push_back(piece);
+    auto* caption = NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette);
+    layout->addWidget(piece, kind, 0);
+    layout->addWidget(caption, kind, 1);
+    const PictureBox& control = session_.Work.Field.Terrain.TerrImg[kind];
+    bindings_.Add([this, piece, &control] {
+      piece->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
+    });
+    connect(piece, &TerrainTile::clicked, this,
+            [this, kind] { Pick(picked_ == kind ? -1 : kind); });
+  }
+  return palette;
+}
+
+QWidget* TerrainPanelWidget::NewAreas() {
+  auto* areas = new QWidget(this);
+  auto* layout = new QGridLayout(areas);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);  // one battlefield
+  for (int i = 0; i < 9; ++i) {
+    auto* area = new TerrainTile(ElementName("Area", i), areaSide, areas);
+    area->setToolTip(QString("Area %1").arg(i + 1));
+    area->MakeArea([this, i](int piece) { PutDown(piece, i); });
+    layout->addWidget(area, i / 3, i % 3);
+    const PictureBox& control = session_.Work.Field.Terrain.Area[i];
+    bindings_.Add([this, area, &control] {
+      area->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
+    });
+    connect(area, &TerrainTile::clicked, this, [this, i] {
+      if (picked_ >= 0) PutDown(picked_, i);
+    });
+  }
+  return areas;
+}
+
+QWidget* TerrainPanelWidget::NewPointsFrame() {
+  const TerrainPanel& terrain = session_.Work.Field.Terrain;
+  auto* frame = NewFrame("Frame5", "Points", this);
+  auto* layout = new QGridLayout(frame);
+  auto* armyPoints = NewNumberLabel("ArmyPts", frame);
+  auto* commandPoints = NewNumberLabel("CommandPts", frame);
+  layout->addWidget(NewLabel("Label21", "Army pts", frame), 0, 0);
+  layout->addWidget(armyPoints, 0, 1);
+  layout->addWidget(NewLabel("Label20", "Command pts", frame), 1, 0);
+  layout->addWidget(commandPoints, 1, 1);
+  layout->addWidget(NewLabel("Label22", "", frame), 2, 0);
+  layout->setColumnMinimumWidth(1, TextWidth(frame, 7));
+  bindings_.Add(armyPoints, terrain.ArmyPts);
+  bindings_.Add(commandPoints, terrain.CommandPts);
+  return frame;
+}
+
+void TerrainPanelWidget::Pick(int piece) {
+  picked_ = piece;
+  for (int kind = 0; kind < static_cast<int>(pieces_.size()); ++kind) {
+    pieces_.at(static_cast<std::size_t>(kind))->Mark(kind == piece);
+  }
+}
+
+void TerrainPanelWidget::PutDown(int piece, int area) {
+  Pick(-1);
+  session_.Run([this, piece, area] {
+    DropTerrain(session_.Work.Field, session_.Work.Army, session_.User, piece, area);
+  });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "ui/panels/panel_widget.h"
+
+namespace tarnwick {
+
+class TerrainTile;
+
+/// Panel 3: the terrain palette, the nine areas, the free points. A piece is dragged onto an area,
+/// or picked and put down by clicks or keys.
+class TerrainPanelWidget : public PanelWidget {
+ public:
+  explicit TerrainPanelWidget(Session& session);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QWidget* NewPalette();
+  QWidget* NewAreas();
+  QWidget* NewPointsFrame();
+  void Pick(int piece);
+  void PutDown(int piece, int area);
+
+  std::array<QPixmap, 6> pictures_;
+  std::vector<TerrainTile*> pieces_;
+  int picked_ = -1;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/parts/entry_guard.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QWindow>
+
+namespace tarnwick {
+namespace {
+
+/// Where a mouse event goes: the window sees it first, then the widget.
+QWidget* ClickedWidget(QObject* object, const QMouseEvent& event) {
+  if (object->isWidgetType()) return static_cast<QWidget*>(object);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->windowHandle() != object) continue;
+    QWidget* child = window->childAt(event.position().toPoint());
+    return child != nullptr ? child : window;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
+  qApp->installEventFilter(this);
+}
+
+void EntryGuard::Watch(QWidget* box, const std::function<bool()>& accepted) {
+  checks_.insert(box, accepted);
+  box->setAcceptDrops(false);  // a text dropped on a box without the focus is never left
+  connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
+}
+
+QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
+  QWidget* focus = window != nullptr ? window->focusWidget() : nullptr;
+  return checks_.contains(focus) ? focus : nullptr;
+}
+
+bool EntryGuard::Check(QWidget* box) {
+  checking_ = true;
+  const QPointer<QWidget> alive = box;
+  const bool accepted = checks_.value(box)();
+  checking_ = false;
+  if (!alive) return accepted;
+  if (accepted) {
+    passed_ = box;
+  } else {
+    box->setFocus(Qt::OtherFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
+  }
+  return accepted;
+}
+
+bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
+  if (checking_) return false;
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return RefusesClick(object, event);
+    case QEvent::Shortcut:
+      return RefusesShortcut();
+    case QEvent::KeyPress:
+      return checks_.contains(object) && RefusesKey(static_cast<QWidget*>(object), event);
+    case QEvent::FocusOut:
+      if (checks_.contains(object)) CheckLostFocus(static_cast<QWidget*>(object), event);
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
+  if (QApplication::activePopupWidget() != nullptr) return false;
+  const QWidget* clicked = ClickedWidget(object, *static_cast<QMouseEvent*>(event));
+  if (clicked == nullptr) return false;
+  QWidget* box = BoxInFocus(clicked->window());
+  if (box == nullptr || clicked == box || box->isAncestorOf(clicked)) return false;
+  // The window asked already when the widget sees the click.
+  if (object->isWidgetType() && passed_ == box) return false;
+  return !Check(box);
+}
+
+bool EntryGuard::RefusesShortcut() {
+  QWidget* box = BoxInFocus(QApplication::activeWindow());
+  return box != nullptr && !Check(box);
+}
+
+bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+  if (!enter && key != Qt::Key_Tab && key != Qt::Key_Backtab) {
+    passed_ = nullptr;
+    return false;
+  }
+  if (!Check(box)) return true;
+  if (!enter) return false;
+  QWidget* next = box->nextInFocusChain();
+  while (next != box && !(checks_.contains(next) && next->isVisible() && next->isEnabled())) {
+    next = next->nextInFocusChain();
+  }
+  if (next == box) return false;
+  next->setFocus(Qt::TabFocusReason);
+  return true;
+}
+
+void EntryGuard::CheckLostFocus(QWidget* box, QEvent* event) {
+  const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
+  const bool checked = passed_ == box;
+  passed_ = nullptr;
+  if (!checked && box->isVisible()) Check(box);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/parts/panel_button.h"
+
+#include <QPainter>
+
+#include "ui/parts/application_style.h"
+
+namespace tarnwick {
+
+PanelButton::PanelButton(const QString& name, const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {
+  setObjectName(name);
+  setAttribute(Qt::WA_Hover);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize PanelButton::sizeHint() const {
+  const int em = fontMetrics().height();
+  return {fontMetrics().horizontalAdvance(text()) + 3 * em, 2 * em + 4};
+}
+
+void PanelButton::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF area = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+  QColor fill = Qt::transparent;
+  if (isChecked()) {
+    fill = AccentColour();
+  } else if (isDown() || underMouse()) {
+    fill = AccentColour();
+    fill.setAlpha(isDown() ? 70 : 35);
+  }
+  painter.setBrush(fill);
+  painter.setPen(hasFocus()
+                     ? QPen(isChecked() ? palette().color(QPalette::Text) : AccentColour(), 2)
+                     : QPen(Qt::NoPen));
+  painter.drawRoundedRect(area, 5, 5);
+  painter.setPen(isChecked() ? Qt::white : palette().color(QPalette::ButtonText));
+  painter.drawText(area.adjusted(fontMetrics().height(), 0, 0, 0),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, text());
+}
+
+}  // namespace tarnwick

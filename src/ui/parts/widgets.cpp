@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/parts/widgets.h"
+
+#include <utility>
+
+#include <QButtonGroup>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QRadioButton>
+#include <QTextCursor>
+#include <QValidator>
+
+#include "base/ansi.h"
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "catalog/profile_files.h"
+#include "ui/parts/qt_text.h"
+
+namespace tarnwick {
+namespace {
+
+/// File systems take 255 bytes as a name, of which the ending needs some.
+constexpr std::size_t longestFileName = 246;
+
+class QuantityValidator : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& /*cursor*/) const override {
+    try {
+      RoundToInt16(Int(LenientNumber(FromQt(text))));
+      return Acceptable;
+    } catch (const OverflowError&) {
+      return Invalid;
+    }
+  }
+};
+
+/// Keeps a name as short as files can be named.
+class FileNameValidator : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& /*cursor*/) const override {
+    return Utf8FromAnsi(FromQt(text)).size() <= longestFileName ? Acceptable : Invalid;
+  }
+};
+
+class DescriptionBox : public QPlainTextEdit {
+ public:
+  DescriptionBox(int lineBreakSize, QWidget* parent)
+      : QPlainTextEdit(parent), lineBreakSize_(lineBreakSize) {
+    connect(this, &QPlainTextEdit::textChanged, this, &DescriptionBox::CutInsertion);
+  }
+
+ private:
+  int StoredSize(QChar c) const {
+    if (c.isLowSurrogate()) return 0;  // the second half of a character
+    return c == '\n' ? lineBreakSize_ : 1;
+  }
+
+  /// Takes off the end of what was typed or pasted, which the cursor stands behind, as much as the
+  /// line of the file can't hold.
+  void CutInsertion() {
+    const QString text = PlainText(*this);
+    int excess = -static_cast<int>(longestValue);
+    for (const QChar c : text)
+      excess += StoredSize(c);
+    QTextCursor cursor = textCursor();
+    int end = cursor.position();
+    while (excess > 0 && end > 0)
+      excess -= StoredSize(text[--end]);
+    if (end == cursor.position()) return;
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.joinPreviousEditBlock();  // undo takes back what was typed and the cut at once
+    cursor.removeSelectedText();
+    cursor.endEditBlock();
+  }
+
+  int lineBreakSize_;
+};
+
+/// Acts at a double click on the empty part of a list, of which the list itself says nothing.
+class EmptyPartClick : public QObject {
+ public:
+  EmptyPartClick(QListWidget* list, std::function<void()> act)
+      : QObject(list), list_(list), act_(std::move(act)) {
+    list->viewport()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*viewport*/, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonDblClick) return false;
+    const auto* click = static_cast<QMouseEvent*>(event);
+    const bool empty = list_->itemAt(click->position().toPoint()) == nullptr;
+    if (empty && click->button() == Qt::LeftButton) act_();
+    return false;
+  }
+
+ private:
+  QListWidget* list_;
+  std::function<void()> act_;
+};
+
+}  // namespace
+
+int TextWidth(const QWidget* widget, int characters) {
+  return widget->fontMetrics().horizontalAdvance('0') * characters;
+}
+
+QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent) {
+  auto* label = Named(new QLabel(caption, parent), name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+QLabel* NewNumberLabel(const QString& name, QWidget* parent) {
+  auto* label = NewLabel(name, "", parent);
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return label;
+}
+
+QLineEdit* NewTextBox(const QString& name, QWidget* parent) {
+  auto* box = Named(new QLineEdit(parent), name);
+  box->setMaxLength(longestValue);
+  return box;
+}
+
+QLineEdit* NewQuantityBox(const QString& name, QWidget* parent) {
+  static const QuantityValidator validator;  // it has no state
+  auto* box = NewTextBox(name, parent);
+  box->setValidator(&validator);
+  box->setAlignment(Qt::AlignRight);
+  return box;
+}
+
+QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
+  static const FileNameValidator validator;
+  auto* box = NewTextBox(name, parent);
+  box->setValidator(&validator);
+  return box;
+}
+
+void OnDoubleClick(QListWidget* list, const std::function<void()>& act) {
+  QObject::connect(list, &QListWidget::itemDoubleClicked, list, act);
+  new EmptyPartClick(list, act);
+}
+
+QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent) {
+  auto* box = Named(new DescriptionBox(lineBreakSize, parent), name);
+  box->setTabChangesFocus(true);
+  return box;
+}
+
+QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent) {
+  return Named(new QGroupBox(caption, parent), name);
+}
+
+QPushButton* NewIdleButton(const QString& name, const QString& caption, const QString& tip,
+                           QWidget* parent) {
+  auto* button = Named(new QPushButton(caption, parent), name);
+  button->setEnabled(false);
+  button->setToolTip(tip);
+  return button;
+}
+
+QButtonGroup* NewOptions(const char* array, int count, QWidget* parent) {
+  auto* group = new QButtonGroup(parent);
+  for (int i = 0; i < count; ++i) {
+    group->addButton(Named(new QRadioButton(parent), ElementName(array, i)), i);
+  }
+  return group;
+}
+
+}  // namespace tarnwick
