@@ -6,7 +6,6 @@
 #include <QDate>
 #include <QMessageBox>
 
-#include "rules/unit_types.h"
 #include "ui/dialogs/army_list_dialog.h"
 #include "ui/dialogs/army_selection_dialog.h"
 #include "ui/dialogs/leader_dialog.h"
@@ -25,6 +24,12 @@ int ShowBox(QMessageBox::Icon icon, const std::string& text, QMessageBox::Standa
   return box.exec();
 }
 
+template <typename Form>
+void ShowModal(Session& session) {
+  Form(session, QApplication::activeWindow()).exec();
+  session.Rethrow();
+}
+
 }  // namespace
 
 FormHost::~FormHost() {
@@ -41,24 +46,19 @@ bool FormHost::Question(const std::string& text) {
 }
 
 void FormHost::ShowArmySelectionForm() {
-  ArmySelectionDialog(*session_, QApplication::activeWindow()).exec();
-  session_->Rethrow();
+  ShowModal<ArmySelectionDialog>(*session_);
 }
 
 void FormHost::ShowArmyListForm() {
-  ArmyListDialog(*session_, QApplication::activeWindow()).exec();
-  session_->Rethrow();
+  ShowModal<ArmyListDialog>(*session_);
 }
 
 void FormHost::ShowLeaderMgmtForm() {
-  LeaderDialog(*session_, QApplication::activeWindow()).exec();
-  session_->Rethrow();
+  ShowModal<LeaderDialog>(*session_);
 }
 
 void FormHost::ShowSpecForm() {
-  SpecialDialog(SpecialAbilitiesText(session_->Work.Army, session_->Store),
-                QApplication::activeWindow())
-      .exec();
+  ShowModal<SpecialDialog>(*session_);
 }
 
 void FormHost::ShowPicture(const std::filesystem::path& file) {

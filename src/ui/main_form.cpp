@@ -31,7 +31,7 @@ MainForm::MainForm(Session& session) : session_(session) {
   layout->setSpacing(0);
   layout->addWidget(NewButtonColumn());
   layout->addWidget(NewPanelStack(), 1);
-  session_.OnChange([this] { Refresh(); });
+  session_.OnChange(this, [this] { Refresh(); });
 }
 
 bool MainForm::Start() {
@@ -85,18 +85,18 @@ void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char*
   button->setCheckable(true);
   column->addWidget(button);
   panelButtons_.insert(static_cast<int>(panel), button);
-  connect(button, &QPushButton::clicked, this, [this, show] { session_.Run(show); });
+  session_.Connect(button, &QPushButton::clicked, show);
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {
   auto* button = new PanelButton("QuickSave", "QuickSave", this);
   column->addWidget(button);
-  connect(button, &QPushButton::clicked, this, &MainForm::Save);
-
   auto* entry = Named(new QAction("QuickSave", this), "mQuickSave");
   entry->setShortcut(QKeySequence::Save);
-  connect(entry, &QAction::triggered, this, &MainForm::Save);
   addAction(entry);
+  const auto save = [this] { SaveArmy(session_.Work, session_.Store, session_.User); };
+  session_.Connect(button, &QPushButton::clicked, save);
+  session_.Connect(entry, &QAction::triggered, save);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +
                      ")");
@@ -120,10 +120,6 @@ QWidget* MainForm::NewPanelStack() {
   for (PanelWidget* panel : panels_)
     editFrame_->addWidget(panel);
   return stack;
-}
-
-void MainForm::Save() {
-  session_.Run([this] { SaveArmy(session_.Work, session_.Store, session_.User); });
 }
 
 }  // namespace tarnwick

@@ -37,7 +37,6 @@ class MainForm : public QWidget {
   void AddQuickSave(QVBoxLayout* column);
   void AddHeaderButtons(QVBoxLayout* column);
   QWidget* NewPanelStack();
-  void Save();
 
   Session& session_;
   QHash<int, PanelButton*> panelButtons_;

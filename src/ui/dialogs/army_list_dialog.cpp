@@ -11,9 +11,7 @@
 namespace tarnwick {
 
 ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName("ArmyListForm");
-  setWindowTitle("Army List");
+    : Dialog("ArmyListForm", "Army List", session, parent) {
   auto* list = Named(new QListWidget(this), "ArmyList");
   list->setUniformItemSizes(true);
   list->setMinimumSize(TextWidth(list, 36), 360);
@@ -44,26 +42,20 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   bindings_.Add(detail, form_.ArmyDetailLabel);
   bindings_.Refresh();
 
-  connect(list, &QListWidget::itemSelectionChanged, this,
-          [this] { Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); }); });
-  OnDoubleClick(list, [this] {
-    Run([this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); });
-    Select();
+  const auto showDetail = [this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); };
+  session_.Connect(list, &QListWidget::itemSelectionChanged, showDetail);
+  OnDoubleClick(list, [this, showDetail] {
+    session_.Run(showDetail);
+    session_.Run([this] { Select(); });
   });
-  connect(select, &QPushButton::clicked, this, &ArmyListDialog::Select);
-  connect(remove, &QPushButton::clicked, this, [this] {
-    Run([this] { DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_); });
+  session_.Connect(select, &QPushButton::clicked, [this] { Select(); });
+  session_.Connect(remove, &QPushButton::clicked, [this] {
+    DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_);
   });
-}
-
-void ArmyListDialog::Run(const std::function<void()>& operation) {
-  if (session_.Run(operation)) bindings_.Refresh();
 }
 
 void ArmyListDialog::Select() {
-  Run([this] {
-    if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
-  });
+  if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
 }
 
 }  // namespace tarnwick

@@ -2,29 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-
-#include <QDialog>
-
 #include "armyfile/army_browser.h"
-#include "ui/parts/bindings.h"
+#include "ui/dialogs/dialog.h"
 
 namespace tarnwick {
 
-class Session;
-
 /// The army browser.
-class ArmyListDialog : public QDialog {
+class ArmyListDialog : public Dialog {
  public:
   ArmyListDialog(Session& session, QWidget* parent);
 
  private:
-  void Run(const std::function<void()>& operation);
   void Select();
 
-  Session& session_;
   ArmyListForm form_;
-  Bindings bindings_;
 };
 
 }  // namespace tarnwick

@@ -11,14 +11,10 @@
 namespace tarnwick {
 
 ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName("ArmySelectionForm");
-  setWindowTitle("Army Selection");
-  auto* list = new QListWidget(this);
-  list->setObjectName("ArmyList");
+    : Dialog("ArmySelectionForm", "Army Selection", session, parent) {
+  auto* list = Named(new QListWidget(this), "ArmyList");
   list->setMinimumSize(320, 360);
-  auto* confirm = new QPushButton("Select Army", this);
-  confirm->setObjectName("Command1");
+  auto* confirm = Named(new QPushButton("Select Army", this), "Command1");
   confirm->setDefault(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(list);
@@ -27,14 +23,11 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
   FillArmySelection(session_.Work.Army, session_.Store, form_);
   bindings_.Add(list, form_.ArmyList);
   bindings_.Refresh();
-  OnDoubleClick(list, [this] { Confirm(); });
-  connect(confirm, &QPushButton::clicked, this, &ArmySelectionDialog::Confirm);
-}
-
-void ArmySelectionDialog::Confirm() {
-  session_.Run([this] {
+  const auto choose = [this] {
     if (ConfirmArmySelection(session_.Work.Army, session_.User, form_)) accept();
-  });
+  };
+  OnDoubleClick(list, [this, choose] { session_.Run(choose); });
+  session_.Connect(confirm, &QPushButton::clicked, choose);
 }
 
 }  // namespace tarnwick

@@ -10,9 +10,8 @@
 
 namespace tarnwick {
 
-LeaderDialog::LeaderDialog(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
-  setObjectName("LeaderMgmtForm");
-  setWindowTitle("LeaderMgmt");
+LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
+    : Dialog("LeaderMgmtForm", "LeaderMgmt", session, parent) {
   auto* name = NewTextBox("LeaderName", this);
   name->setMinimumWidth(TextWidth(name, 28));
   auto* initiative = Named(new QComboBox(this), "InitiativeBox");
@@ -38,25 +37,12 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent) : QDialog(parent),
   bindings_.Add(cost, form_.leaderCost);
   bindings_.Refresh();
 
-  for (const QComboBox* list : {initiative, command}) {
-    connect(list, &QComboBox::activated, this,
-            [this] { Run([this] { UpdateLeaderCost(form_); }); });
-  }
-  session_.Guard.Watch(command, [this] {
-    const bool allowed =
-        session_.Allows([&] { return !CommandBox_Validate(form_, session_.User); });
-    bindings_.Refresh();
-    return allowed;
+  for (QComboBox* list : {initiative, command})
+    session_.Connect(list, &QComboBox::activated, [this] { UpdateLeaderCost(form_); });
+  session_.Guard(command, [this] { return CommandBox_Validate(form_, session_.User); });
+  session_.Connect(define, &QPushButton::clicked, [this] {
+    if (DefineLeader(session_.Work.Army, session_.User, form_)) accept();
   });
-  connect(define, &QPushButton::clicked, this, [this] {
-    Run([this] {
-      if (DefineLeader(session_.Work.Army, session_.User, form_)) accept();
-    });
-  });
-}
-
-void LeaderDialog::Run(const std::function<void()>& operation) {
-  if (session_.Run(operation)) bindings_.Refresh();
 }
 
 }  // namespace tarnwick

@@ -5,14 +5,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "rules/unit_types.h"
 #include "ui/parts/qt_text.h"
+#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 
-SpecialDialog::SpecialDialog(const std::string& text, QWidget* parent) : QDialog(parent) {
-  setObjectName("specForm");
-  setWindowTitle("Special Abilities");
+SpecialDialog::SpecialDialog(Session& session, QWidget* parent)
+    : Dialog("specForm", "Special Abilities", session, parent) {
+  const std::string text = SpecialAbilitiesText(session.Work.Army, session.Store);
   auto* label = NewLabel("specText", ToQt(text), this);
   label->setWordWrap(true);
   label->setMinimumWidth(TextWidth(label, 60));

@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
-#include <QDialog>
+#include "ui/dialogs/dialog.h"
 
 namespace tarnwick {
 
-/// The special abilities of a unit.
-class SpecialDialog : public QDialog {
+/// The special abilities of the unit row `SpecUnitRow`.
+class SpecialDialog : public Dialog {
  public:
-  SpecialDialog(const std::string& text, QWidget* parent);
+  SpecialDialog(Session& session, QWidget* parent);
 };
 
 }  // namespace tarnwick

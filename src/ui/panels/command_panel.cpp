@@ -68,11 +68,10 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
   bindings_.Add([frame, &caption = command.LeaderFrame.Caption] {
     if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
   });
-  connect(leaders, &QButtonGroup::idClicked, this, [this](int index) {
-    session_.Run([this, index] { LeaderName_Click(session_.Work.Army, session_.User, index); });
+  session_.Connect(leaders, &QButtonGroup::idClicked, [this, leaders] {
+    LeaderName_Click(session_.Work.Army, session_.User, leaders->checkedId());
   });
-  connect(define, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { session_.User.ShowLeaderMgmtForm(); }); });
+  session_.Connect(define, &QPushButton::clicked, [this] { session_.User.ShowLeaderMgmtForm(); });
   return frame;
 }
 
@@ -108,9 +107,8 @@ void CommandPanelWidget::AddCardRow() {
   bindings_.Add(cost, command.SpecCostLabel[j]);
   bindings_.Add(most, command.SpecMaxLabel[j]);
   bindings_.Add(quantity, command.SpecBuy[j]);
-  session_.Guard.Watch(quantity, [this, j] {
-    return session_.Allows([&] { return !SpecBuy_Validate(session_.Work.Army, session_.User, j); });
-  });
+  session_.Guard(quantity,
+                 [this, j] { return SpecBuy_Validate(session_.Work.Army, session_.User, j); });
 }
 
 }  // namespace tarnwick

@@ -31,8 +31,8 @@ QWidget* DetailPanelWidget::NewDescriptionFrame() {
   auto* description = NewDescriptionBox("ArmyDesc", 1, frame);
   layout->addWidget(description);
   bindings_.Add(description, header.ArmyDesc);
-  connect(description, &QPlainTextEdit::textChanged, this,
-          [this] { session_.Run([this] { ArmyDesc_Change(session_.Work.Header); }); });
+  session_.Connect(description, &QPlainTextEdit::textChanged,
+                   [this] { ArmyDesc_Change(session_.Work.Header); });
   return frame;
 }
 
@@ -61,11 +61,10 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
 
     bindings_.Add(year, box);
     bindings_.Add(eras, era);
-    session_.Guard.Watch(year, [this, validate] {
-      return session_.Allows([&] { return !validate(session_.Work.Header, session_.User); });
-    });
-    connect(eras, &QButtonGroup::idClicked, this,
-            [this, click] { session_.Run([this, click] { click(session_.Work.Header); }); });
+    session_.Guard(year,
+                   [this, validate] { return validate(session_.Work.Header, session_.User); });
+    session_.Connect(eras, &QButtonGroup::idClicked,
+                     [this, click] { click(session_.Work.Header); });
   };
   add("Frame9", "Label30", "From:", "FromData", header.FromData, FromData_Validate, "FromACBC",
       header.FromACBC, FromACBC_Click);

@@ -30,8 +30,8 @@ QWidget* ManagementPanelWidget::NewModuleFrame() {
     layout->addWidget(option);
   layout->addStretch();
   bindings_.Add(modules, session_.Work.Army.Management.modOption);
-  connect(modules, &QButtonGroup::idClicked, this,
-          [this] { session_.Run([this] { modOption_Click(session_.Work, session_.Store); }); });
+  session_.Connect(modules, &QButtonGroup::idClicked,
+                   [this] { modOption_Click(session_.Work, session_.Store); });
   return frame;
 }
 
@@ -75,15 +75,12 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* save = add("SaveBtn", "Save Army");
   layout->addStretch();
   setFocusProxy(newArmy);
-  connect(newArmy, &QPushButton::clicked, this, [this] {
-    session_.Run([this] { NewArmyBtn_Click(session_.Work, session_.Store, session_.User); });
-  });
-  connect(load, &QPushButton::clicked, this, [this] {
-    session_.Run([this] { LoadBtn_Click(session_.Work, session_.Store, session_.User); });
-  });
-  connect(save, &QPushButton::clicked, this, [this] {
-    session_.Run([this] { SaveArmy(session_.Work, session_.Store, session_.User); });
-  });
+  session_.Connect(newArmy, &QPushButton::clicked,
+                   [this] { NewArmyBtn_Click(session_.Work, session_.Store, session_.User); });
+  session_.Connect(load, &QPushButton::clicked,
+                   [this] { LoadBtn_Click(session_.Work, session_.Store, session_.User); });
+  session_.Connect(save, &QPushButton::clicked,
+                   [this] { SaveArmy(session_.Work, session_.Store, session_.User); });
   return row;
 }
 

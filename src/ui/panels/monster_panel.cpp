@@ -37,8 +37,8 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
   Body()->addLayout(buttons);
   Body()->addStretch();
 
-  connect(newMonster, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { NewMonster(session_.Work.Army.Monster); }); });
+  session_.Connect(newMonster, &QPushButton::clicked,
+                   [this] { NewMonster(session_.Work.Army.Monster); });
 }
 
 }  // namespace tarnwick

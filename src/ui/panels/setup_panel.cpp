@@ -35,20 +35,17 @@ QWidget* SetupPanelWidget::NewSetupList() {
   side->setFixedWidth(TextWidth(side, 20));
 
   bindings_.Add(list, session_.Work.Field.Setup.setupList);
-  connect(list, &QListWidget::itemSelectionChanged, this, [this] {
-    session_.Run(
-        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
-  });
-  // An entry that is selected already shows its setup again, as after the panel hid it.
   const auto choose = [this] {
-    session_.Run(
-        [this] { setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
+    setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store);
   };
-  connect(list, &QListWidget::itemClicked, this, choose);
-  connect(list, &QListWidget::itemActivated, this, choose);
-  Connect(create,
-          [this] { Command6_Click(session_.Work.Field, session_.Work.Army, session_.Store); });
-  Connect(remove, [this] { Command3_Click(session_.Work.Army); });
+  session_.Connect(list, &QListWidget::itemSelectionChanged, choose);
+  // An entry that is selected already shows its setup again, as after the panel hid it.
+  session_.Connect(list, &QListWidget::itemClicked, choose);
+  session_.Connect(list, &QListWidget::itemActivated, choose);
+  session_.Connect(create, &QPushButton::clicked, [this] {
+    Command6_Click(session_.Work.Field, session_.Work.Army, session_.Store);
+  });
+  session_.Connect(remove, &QPushButton::clicked, [this] { Command3_Click(session_.Work.Army); });
   return side;
 }
 
@@ -72,9 +69,8 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   bindings_.AddVisible(frame, setup.setupFramePanel.Visible);
   bindings_.Add(units, setup.unitList);
   bindings_.Add(description, setup.description);
-  connect(description, &QPlainTextEdit::textChanged, this, [this] {
-    session_.Run(
-        [this] { description_Change(session_.Work.Field, session_.Work.Army, session_.Store); });
+  session_.Connect(description, &QPlainTextEdit::textChanged, [this] {
+    description_Change(session_.Work.Field, session_.Work.Army, session_.Store);
   });
   return frame;
 }
@@ -99,17 +95,13 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
     layout->addWidget(assign, place - firstPlace, 1);
     layout->addWidget(unit, place - firstPlace, 2);
     bindings_.Add(unit, session_.Work.Field.Setup.unit[place]);
-    Connect(assign, [this, place] {
+    session_.Connect(assign, &QPushButton::clicked, [this, place] {
       assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.Store, session_.User,
                       place);
     });
   }
   layout->setColumnStretch(2, 1);
   return zone;
-}
-
-void SetupPanelWidget::Connect(QAbstractButton* button, const std::function<void()>& operation) {
-  connect(button, &QAbstractButton::clicked, this, [this, operation] { session_.Run(operation); });
 }
 
 }  // namespace tarnwick

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-
 #include "ui/panels/panel_widget.h"
 
 namespace tarnwick {
@@ -17,7 +15,6 @@ class SetupPanelWidget : public PanelWidget {
   QWidget* NewSetupList();
   QWidget* NewSetupFrame();
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
-  void Connect(QAbstractButton* button, const std::function<void()>& operation);
 };
 
 }  // namespace tarnwick

@@ -79,10 +79,10 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units,
   middle->addLayout(side);
   Body()->addLayout(middle, 1);
 
-  connect(verify, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { VerifyBtn_Click(session_.Work.Army, session_.User); }); });
-  connect(reset, &QPushButton::clicked, this,
-          [this] { session_.Run([this] { ResetArmy_Click(session_.Work, session_.Store); }); });
+  session_.Connect(verify, &QPushButton::clicked,
+                   [this] { VerifyBtn_Click(session_.Work.Army, session_.User); });
+  session_.Connect(reset, &QPushButton::clicked,
+                   [this] { ResetArmy_Click(session_.Work, session_.Store); });
 }
 
 QWidget* UnitsPanelWidget::NewViewFrame() {
@@ -92,9 +92,8 @@ QWidget* UnitsPanelWidget::NewViewFrame() {
   for (QAbstractButton* option : views->buttons())
     layout->addWidget(option);
   bindings_.Add(views, session_.Work.Army.Units.ViewOption);
-  connect(views, &QButtonGroup::idClicked, this, [this] {
-    session_.Run([this] { ViewOption_Click(session_.Work.Army, session_.Store); });
-  });
+  session_.Connect(views, &QButtonGroup::idClicked,
+                   [this] { ViewOption_Click(session_.Work.Army, session_.Store); });
   return frame;
 }
 
@@ -167,9 +166,8 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   auto* quantity = NewQuantityBox(ElementName("Buy", line), grid);
   quantity->setFixedWidth(TextWidth(grid, headings[buy].Characters));
   put(quantity, buy, units.Buy[line]);
-  session_.Guard.Watch(quantity, [this, line] {
-    return session_.Allows(
-        [&] { return !Buy_Validate(session_.Work.Army, session_.Store, session_.User, line); });
+  session_.Guard(quantity, [this, line] {
+    return Buy_Validate(session_.Work.Army, session_.Store, session_.User, line);
   });
 
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
@@ -179,17 +177,15 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   pictures->setMaximumWidth(TextWidth(pictures, 40));
   pictures->setFocusPolicy(Qt::StrongFocus);
   put(pictures, image, units.ImageName[line]);
-  connect(pictures, &QComboBox::activated, this, [this, line] {
-    session_.Run([this, line] { ImageName_Click(session_.Work.Army, line); });
-  });
+  session_.Connect(pictures, &QComboBox::activated,
+                   [this, line] { ImageName_Click(session_.Work.Army, line); });
 
   auto* show = Named(new QPushButton("View", grid), ElementName("ViewBtn", line));
   show->setFixedHeight(quantity->sizeHint().height());
   layout->addWidget(show, line + 1, view);
   bindings_.AddVisible(show, units.ViewBtn[line].Visible);
-  connect(show, &QPushButton::clicked, this, [this, line] {
-    session_.Run(
-        [this, line] { ViewBtn_Click(session_.Work.Army, session_.Store, session_.User, line); });
+  session_.Connect(show, &QPushButton::clicked, [this, line] {
+    ViewBtn_Click(session_.Work.Army, session_.Store, session_.User, line);
   });
 
   auto* abilities = Named(new QToolButton(grid), ElementName("specLabel", line));
@@ -201,9 +197,8 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   bindings_.Add([abilities, &label = units.specLabel[line]] {
     abilities->setEnabled(!label.Caption.empty());
   });
-  connect(abilities, &QToolButton::clicked, this, [this, line] {
-    session_.Run(
-        [this, line] { specLabel_Click(session_.Work.Army, session_.Store, session_.User, line); });
+  session_.Connect(abilities, &QToolButton::clicked, [this, line] {
+    specLabel_Click(session_.Work.Army, session_.Store, session_.User, line);
   });
 }
 

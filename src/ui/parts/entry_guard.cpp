@@ -29,8 +29,8 @@ EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
   qApp->installEventFilter(this);
 }
 
-void EntryGuard::Watch(QWidget* box, const std::function<bool()>& accepted) {
-  checks_.insert(box, accepted);
+void EntryGuard::Watch(QWidget* box, const std::function<bool()>& refused) {
+  checks_.insert(box, refused);
   box->setAcceptDrops(false);  // a text dropped on a box without the focus is never left
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
@@ -40,19 +40,19 @@ QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
   return checks_.contains(focus) ? focus : nullptr;
 }
 
-bool EntryGuard::Check(QWidget* box) {
+bool EntryGuard::Refuses(QWidget* box) {
   checking_ = true;
   const QPointer<QWidget> alive = box;
-  const bool accepted = checks_.value(box)();
+  const bool refused = checks_.value(box)();
   checking_ = false;
-  if (!alive) return accepted;
-  if (accepted) {
-    passed_ = box;
-  } else {
+  if (!alive) return refused;
+  if (refused) {
     box->setFocus(Qt::OtherFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
+  } else {
+    passed_ = box;
   }
-  return accepted;
+  return refused;
 }
 
 bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
@@ -81,12 +81,12 @@ bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
   if (box == nullptr || clicked == box || box->isAncestorOf(clicked)) return false;
   // The window asked already when the widget sees the click.
   if (object->isWidgetType() && passed_ == box) return false;
-  return !Check(box);
+  return Refuses(box);
 }
 
 bool EntryGuard::RefusesShortcut() {
   QWidget* box = BoxInFocus(QApplication::activeWindow());
-  return box != nullptr && !Check(box);
+  return box != nullptr && Refuses(box);
 }
 
 bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
@@ -96,7 +96,7 @@ bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
     passed_ = nullptr;
     return false;
   }
-  if (!Check(box)) return true;
+  if (Refuses(box)) return true;
   if (!enter) return false;
   QWidget* next = box->nextInFocusChain();
   while (next != box && !(checks_.contains(next) && next->isVisible() && next->isEnabled())) {
@@ -112,7 +112,7 @@ void EntryGuard::CheckLostFocus(QWidget* box, QEvent* event) {
   if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
   const bool checked = passed_ == box;
   passed_ = nullptr;
-  if (!checked && box->isVisible()) Check(box);
+  if (!checked && box->isVisible()) Refuses(box);
 }
 
 }  // namespace tarnwick

@@ -20,8 +20,8 @@ class EntryGuard : public QObject {
  public:
   explicit EntryGuard(QObject* parent = nullptr);
 
-  /// `accepted` runs when `box` is left and says whether it may be.
-  void Watch(QWidget* box, const std::function<bool()>& accepted);
+  /// `refused` runs when `box` is left and says whether it may not be.
+  void Watch(QWidget* box, const std::function<bool()>& refused);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -29,7 +29,7 @@ class EntryGuard : public QObject {
  private:
   /// The box that has the focus of a window, whether that is active or not.
   QWidget* BoxInFocus(const QWidget* window) const;
-  bool Check(QWidget* box);
+  bool Refuses(QWidget* box);
   bool RefusesClick(QObject* object, QEvent* event);
   bool RefusesShortcut();
   bool RefusesKey(QWidget* box, QEvent* event);

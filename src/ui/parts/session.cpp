@@ -3,16 +3,24 @@
 #include "ui/parts/session.h"
 
 #include <string>
+#include <utility>
 
 #include <QCoreApplication>
 
 namespace tarnwick {
 
+void Session::OnChange(QObject* view, std::function<void()> refresh) {
+  std::erase_if(views_, [](const View& known) { return !known.Owner; });
+  views_.push_back({view, std::move(refresh)});
+}
+
 bool Session::Run(const std::function<void()>& operation) {
   if (error_) return false;
   try {
     operation();
-    refresh_();
+    for (const View& view : views_) {
+      if (view.Owner) view.Refresh();
+    }
     return true;
   } catch (const std::exception& error) {
     if (!error_) {
@@ -24,9 +32,11 @@ bool Session::Run(const std::function<void()>& operation) {
   }
 }
 
-bool Session::Allows(const std::function<bool()>& operation) {
-  bool allowed = false;
-  return Run([&] { allowed = operation(); }) && allowed;
+void Session::Guard(QWidget* box, const std::function<bool()>& refused) {
+  guard_.Watch(box, [this, refused] {
+    bool result = false;
+    return !Run([&] { result = refused(); }) || result;
+  });
 }
 
 void Session::Rethrow() const {

@@ -4,7 +4,10 @@
 
 #include <exception>
 #include <functional>
-#include <utility>
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
 
 #include "armyfile/working_army.h"
 #include "base/host.h"
@@ -21,25 +24,37 @@ class Session {
   WorkingArmy& Work;
   Disk& Store;
   Host& User;
-  EntryGuard Guard;
 
-  /// Who shows the state after every event.
-  void OnChange(std::function<void()> refresh) { refresh_ = std::move(refresh); }
+  /// `refresh` shows the state after every event, for as long as `view` is there.
+  void OnChange(QObject* view, std::function<void()> refresh);
 
   /// Runs an operation and shows the state. A run-time error that the operation does not catch is
   /// named in a message box and ends the program with exit status 1. Then the result is false, and
   /// no operation runs any more.
   bool Run(const std::function<void()>& operation);
 
-  /// Runs an operation that says whether the user may go on; an error says no.
-  bool Allows(const std::function<bool()>& operation);
+  /// Runs an operation whenever `sender` gives `signal`.
+  template <typename Sender, typename Signal>
+  void Connect(Sender* sender, Signal signal, const std::function<void()>& operation) {
+    QObject::connect(sender, signal, sender, [this, operation] { Run(operation); });
+  }
+
+  /// Whenever the user leaves `box`, `refused` looks at what was entered and says whether it is
+  /// refused; an error refuses it, too.
+  void Guard(QWidget* box, const std::function<bool()>& refused);
 
   /// Lets the error that has ended the program end the operation, too, that opened a dialog.
   void Rethrow() const;
 
  private:
+  struct View {
+    QPointer<QObject> Owner;
+    std::function<void()> Refresh;
+  };
+
+  EntryGuard guard_;
   std::exception_ptr error_;
-  std::function<void()> refresh_ = [] {};
+  std::vector<View> views_;
 };
 
 }  // namespace tarnwick
