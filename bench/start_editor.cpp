@@ -8,12 +8,9 @@
 
 #include <QApplication>
 
-#include "armyfile/working_army.h"
 #include "first_paint.h"
-#include "ui/form_host.h"
-#include "ui/main_form.h"
+#include "ui/editor.h"
 #include "ui/parts/application_style.h"
-#include "ui/parts/session.h"
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
@@ -25,14 +22,9 @@ int main(int argc, char* argv[]) {
   }
   ApplyStyle();
 
-  WorkingArmy work;
-  Disk disk(arguments[1].toStdU16String());
-  FormHost host;
-  Session session(work, disk, host);
-  host.Serve(session);
-  MainForm form(session);
-  const EndAtFirstPaint end(form);
-  if (!form.Start() || work.Army.Catalog.TotImages == 0) return 1;
-  form.show();
+  Editor editor(arguments[1].toStdU16String());
+  const EndAtFirstPaint end(editor.Form);
+  if (!editor.Form.Start() || editor.Work.Army.Catalog.TotImages == 0) return 1;
+  editor.Form.show();
   return QApplication::exec();
 }

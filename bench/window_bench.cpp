@@ -20,12 +20,10 @@
 #include <QEvent>
 #include <QLabel>
 
-#include "armyfile/working_army.h"
 #include "quiet_host.h"
 #include "rules/unit_purchase.h"
-#include "ui/main_form.h"
+#include "ui/editor.h"
 #include "ui/parts/application_style.h"
-#include "ui/parts/session.h"
 
 namespace tarnwick {
 namespace {
@@ -46,8 +44,8 @@ class ShownWindow {
   ShownWindow() {
     form_.Start();
     host_.OnArmySelectionForm = [this] { work_.Army.BaseArmyName = "Carthage in Italy"; };
-    session_.Run([this] {
-      NewArmyBtn_Click(work_, disk_, host_);
+    editor_.Events.Run([this] {
+      NewArmyBtn_Click(work_, editor_.Store, host_);
       ShowPanel(work_.Army, Panel::Units);
     });
     form_.show();
@@ -63,7 +61,7 @@ class ShownWindow {
     quantity_ = 3 - quantity_;
     ArmyState& army = work_.Army;
     army.Units.Buy[0].Text = std::to_string(quantity_);
-    session_.Run([&] { BuyUnits(army, disk_, host_, 0); });
+    editor_.Events.Run([&] { BuyUnits(army, editor_.Store, host_, 0); });
   }
 
   /// Works off all events that are waiting until both places that a purchase changes are painted.
@@ -89,12 +87,11 @@ class ShownWindow {
   }
 
  private:
-  WorkingArmy work_;
-  Disk disk_{SHIPPED_DATA};
+  Editor editor_{SHIPPED_DATA};
+  WorkingArmy& work_ = editor_.Work;
+  MainForm& form_ = editor_.Form;
   QuietHost host_;
-  Session session_{work_, disk_, host_};
   PaintCounter lineTotal_, pointsLeft_;
-  MainForm form_{session_};
   int quantity_ = 1;
   int missedPaints_ = 0;
 };

@@ -63,9 +63,9 @@ class Hurry : public Host {
 };
 
 /// An editor that saves two versions of an army in turn, which differ in every part of the file.
-class Editor {
+class Saver {
  public:
-  Editor(const fs::path& folder, const Scenario& scenario)
+  Saver(const fs::path& folder, const Scenario& scenario)
       : disk_(folder), user_(work_, scenario.Loaded) {
     Form_Load(work_, disk_);
     TickOption(work_.Army.Management.modOption, scenario.Brakka ? 1 : 0);
@@ -111,8 +111,8 @@ bool SaveAndKill(const fs::path& folder, const Scenario& scenario, double moment
   if (pipe(saves) != 0) std::abort();
   const pid_t child = fork();
   if (child == 0) {
-    Editor editor(folder, scenario);
-    for (int i = 0; editor.Save(i % 2 == 1); ++i) {
+    Saver saver(folder, scenario);
+    for (int i = 0; saver.Save(i % 2 == 1); ++i) {
       if (i < 2 && write(saves[1], "", 1) != 1) break;
     }
     _exit(1);
@@ -165,7 +165,7 @@ int HandleRoughly(const fs::path& data, const fs::path& folder, const Scenario& 
   }
   Contents whole;
   for (const bool second : {true, false}) {
-    if (!Editor(folder, scenario).Save(second)) return 1;
+    if (!Saver(folder, scenario).Save(second)) return 1;
     AddContents(folder, whole);
   }
   std::mt19937 random(1);
@@ -177,7 +177,7 @@ int HandleRoughly(const fs::path& data, const fs::path& folder, const Scenario& 
     broken += CountBroken(folder, whole, left);
   }
   int leftAtTheEnd = 0;
-  if (!Editor(folder, scenario).Save(false)) ++broken;
+  if (!Saver(folder, scenario).Save(false)) ++broken;
   broken += CountBroken(folder, whole, leftAtTheEnd);
   std::printf("%s saved as %s: %d kills, %d broken, %d new files left behind, %d of them still\n",
               scenario.Loaded, scenario.Saved, kills, broken, left, leftAtTheEnd);

@@ -12,10 +12,8 @@
 #include <QApplication>
 #include <QLabel>
 
-#include "ui/form_host.h"
-#include "ui/main_form.h"
+#include "ui/editor.h"
 #include "ui/parts/application_style.h"
-#include "ui/parts/session.h"
 #include "window_driver.h"
 
 namespace tarnwick {
@@ -317,16 +315,11 @@ int main(int argc, char* argv[]) {
   fs::create_directories(out);
   fs::copy(argv[1], out / "program", fs::copy_options::recursive);
 
-  WorkingArmy work;
-  Disk disk(out / "program");
-  FormHost host;
-  Session session(work, disk, host);
-  host.Serve(session);
-  MainForm form(session);
-  if (!form.Start()) return 1;
-  form.resize(1280, 800);
-  form.show();
-  Tour(form, out).Run();
+  Editor editor(out / "program");
+  if (!editor.Form.Start()) return 1;
+  editor.Form.resize(1280, 800);
+  editor.Form.show();
+  Tour(editor.Form, out).Run();
   std::printf("Pictures and the program folder with the saved army are in %s\n", out.c_str());
   return 0;
 }

@@ -18,11 +18,9 @@
 #include <QTest>
 
 #include "support/temp_folder.h"
-#include "ui/form_host.h"
-#include "ui/main_form.h"
+#include "ui/editor.h"
 #include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "window_driver.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -50,16 +48,21 @@ class Application : public testing::Environment {
 
 inline testing::Environment* const application = testing::AddGlobalTestEnvironment(new Application);
 
-/// The started window in a program folder of its own with the shipped catalogs. Every test ends
-/// with a look at whether the window shows the state and whether a message was overlooked.
-struct WindowTest : testing::Test {
-  WindowTest() {
+/// A program folder with the shipped catalogs; the tests save their own armies.
+struct ShippedFolder {
+  ShippedFolder() {
     std::filesystem::copy(SHIPPED_DATA, Folder.Path(), std::filesystem::copy_options::recursive);
-    for (const char* army : {"Alesia.army", "Chaironeia.army", "Kadesh.army", "Trebia.army"}) {
-      std::filesystem::remove(Folder / army);  // the tests save their own
-    }
-    User.Serve(Events);
+    for (const char* army : {"Alesia.army", "Chaironeia.army", "Kadesh.army", "Trebia.army"})
+      std::filesystem::remove(Folder / army);
   }
+
+  TempFolder Folder;
+};
+
+/// The started editor in a program folder of its own. Every test ends with a look at whether the
+/// window shows the state and whether a message was overlooked.
+struct WindowTest : testing::Test, ShippedFolder, Editor {
+  WindowTest() : Editor(Folder.Path()) {}
 
   void SetUp() override {
     ASSERT_TRUE(Form.Start());
@@ -131,12 +134,6 @@ struct WindowTest : testing::Test {
 
   void ExpectWindowShowsState() const;
 
-  TempFolder Folder;
-  Disk Store{Folder.Path()};
-  WorkingArmy Work;
-  FormHost User;
-  Session Events{Work, Store, User};
-  MainForm Form{Events};
   WindowDriver Hands;
 
  private:
