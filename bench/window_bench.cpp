@@ -10,6 +10,7 @@
 // Aim: PurchaseAndPaint under 4 ms.
 
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <string>
 
@@ -42,7 +43,7 @@ class PaintCounter : public QObject {
 class ShownWindow {
  public:
   ShownWindow() {
-    form_.Start();
+    if (!form_.Start()) std::abort();
     host_.OnArmySelectionForm = [this] { work_.Army.BaseArmyName = "Carthage in Italy"; };
     editor_.Events.Run([this] {
       NewArmyBtn_Click(work_, editor_.Store, host_);
@@ -61,7 +62,7 @@ class ShownWindow {
     quantity_ = 3 - quantity_;
     ArmyState& army = work_.Army;
     army.Units.Buy[0].Text = std::to_string(quantity_);
-    editor_.Events.Run([&] { BuyUnits(army, editor_.Store, host_, 0); });
+    editor_.Events.Run([&] { refused_ |= !BuyUnits(army, editor_.Store, host_, 0); });
   }
 
   /// Works off all events that are waiting until both places that a purchase changes are painted.
@@ -81,7 +82,7 @@ class ShownWindow {
     const auto* total = form_.findChild<QLabel*>("UnitTotalLabel(0)");
     const auto* left = form_.findChild<QLabel*>("TotalCost");
     const int cost = quantity_ * work_.Army.BaseUnits[1].Cost.Value();
-    return host_.Messages == 0 && missedPaints_ == 0 && total->isVisible() &&
+    return !refused_ && host_.Messages == 0 && missedPaints_ == 0 && total->isVisible() &&
            total->text() == QString::number(cost) &&
            left->text().startsWith(QString("Points left: %1 of").arg(400 - cost));
   }
@@ -94,6 +95,7 @@ class ShownWindow {
   PaintCounter lineTotal_, pointsLeft_;
   int quantity_ = 1;
   int missedPaints_ = 0;
+  bool refused_ = false;
 };
 
 /// The purchase and the refresh of the whole window. What they make necessary to paint is painted

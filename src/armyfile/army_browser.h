@@ -25,11 +25,12 @@ void ShowArmyDetail(const ArmyState& state, const Disk& disk, ArmyListForm& form
 
 /// Whether this editor can read the file. `required` takes the version of one that it can't.
 /// Always looks into the program folder, whatever the module. Throws OverflowError.
-bool CheckArmyVersion(const ArmyState& state, const Disk& disk, const std::string& name,
-                      std::string& required);
+[[nodiscard]] bool CheckArmyVersion(const ArmyState& state, const Disk& disk,
+                                    const std::string& name, std::string& required);
 
 /// The selected file becomes `ArmyFile` if it may be loaded. Returns whether the dialog closes.
-bool SelectArmy(WorkingArmy& work, const Disk& disk, Host& host, const ArmyListForm& form);
+[[nodiscard]] bool SelectArmy(WorkingArmy& work, const Disk& disk, Host& host,
+                              const ArmyListForm& form);
 
 /// Deletes the selected file after a question. Deletes in the program folder, whatever the module.
 /// Throws FileError.

@@ -41,8 +41,8 @@ void ArmyDesc_Change(ArmyHeader& header);
 // The focus leaves a period box: every failed check is reported, and the period takes the numbers
 // all the same. Returns true (cancel: the focus stays) when a check failed.
 
-bool FromData_Validate(ArmyHeader& header, Host& host);
-bool ToData_Validate(ArmyHeader& header, Host& host);
+[[nodiscard]] bool FromData_Validate(ArmyHeader& header, Host& host);
+[[nodiscard]] bool ToData_Validate(ArmyHeader& header, Host& host);
 
 // One of the era buttons was clicked: a period that begins AC also ends AC.
 

@@ -22,7 +22,7 @@ std::filesystem::path PathIn(const std::filesystem::path& folder, std::string_vi
 std::string AnsiFromPath(const std::filesystem::path& path);
 
 /// Lower case; letters with accents count.
-char LowerCase(char ansi);
-std::string LowerCase(std::string_view ansi);
+[[nodiscard]] char LowerCase(char ansi);
+[[nodiscard]] std::string LowerCase(std::string_view ansi);
 
 }  // namespace tarnwick

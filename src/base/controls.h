@@ -13,11 +13,14 @@ namespace tarnwick {
 // What the window's controls hold. Many rules read it, so it belongs to the state; the window
 // mirrors it and writes into it what the user enters.
 
+/// The colours of the classic 16-colour palette that are in use, by their numbers there.
+enum class Colour { Black = 0, LightBlue = 9 };
+
 struct Label {
   std::string Caption;
   std::string Tag;
   bool Visible = true;
-  int ForeColor = 0;  ///< index in the classic 16-colour palette; 0 is black
+  Colour ForeColor = Colour::Black;
 
   bool operator==(const Label&) const = default;
 };
@@ -99,13 +102,6 @@ struct ListBox {
   void AddItem(const std::string& text, Int16 itemData = 0) { Entries.push_back({text, itemData}); }
 
   bool operator==(const ListBox&) const = default;
-};
-
-/// Panels of equal place and size, of which one is in front.
-struct FrameStack {
-  int Front = 0;
-
-  bool operator==(const FrameStack&) const = default;
 };
 
 }  // namespace tarnwick

@@ -19,7 +19,7 @@ class Host {
   /// A box with an OK button.
   virtual void Message(const std::string& text) = 0;
   /// A box with OK and Cancel; true only for OK.
-  virtual bool Question(const std::string& text) = 0;
+  [[nodiscard]] virtual bool Question(const std::string& text) = 0;
 
   /// The choice of a base army; the answer is `BaseArmyName`.
   virtual void ShowArmySelectionForm() = 0;

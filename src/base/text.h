@@ -21,9 +21,10 @@ std::string GetField(std::string_view text, Int16 n, std::string_view separator 
 
 /// `text` with every `find` replaced, from left to right, case and all. An empty `find` leaves
 /// the text as it is.
-std::string ReplaceText(std::string_view find, std::string_view replacement, std::string_view text);
+[[nodiscard]] std::string ReplaceText(std::string_view find, std::string_view replacement,
+                                      std::string_view text);
 
 /// `text` without the spaces at both ends.
-std::string_view Trim(std::string_view text);
+[[nodiscard]] std::string_view Trim(std::string_view text);
 
 }  // namespace tarnwick

@@ -38,7 +38,7 @@ void ShowTerrainPoints(Battlefield& field, const ArmyState& state);
 void ShowTerrain(Battlefield& field, const ArmyState& state);
 
 /// Whether both prices of a kind are free.
-bool CanPlaceTerrain(const Battlefield& field, const ArmyState& state, Int16 kind);
+[[nodiscard]] bool CanPlaceTerrain(const Battlefield& field, const ArmyState& state, Int16 kind);
 
 /// The palette's piece `piece` is dropped on `Area(area)`: refunds what lies there and charges the
 /// piece, whose whole price must be free before the refund. Throws OverflowError.

@@ -52,10 +52,11 @@ class ProfileText {
   /// The text with `key` set to `value`. An existing key keeps its place and spelling, a new one
   /// goes behind the last key of its section, a new section to the end. All other bytes stay;
   /// the lines written end with CR LF.
-  std::string With(std::string_view section, std::string_view key, std::string_view value) const;
+  [[nodiscard]] std::string With(std::string_view section, std::string_view key,
+                                 std::string_view value) const;
 
   /// The same for several keys, one after the other.
-  std::string With(const std::vector<Entry>& entries) const;
+  [[nodiscard]] std::string With(const std::vector<Entry>& entries) const;
 
  private:
   struct NameHash {

@@ -67,7 +67,7 @@ void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible) {
 }
 
 void ShowPanel(ArmyState& state, Panel panel) {
-  state.EditFrame.Front = static_cast<int>(panel);
+  state.EditFrame.Front = panel;
 }
 
 }  // namespace tarnwick

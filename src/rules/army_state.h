@@ -76,6 +76,16 @@ struct MonsterPanel {
   bool operator==(const MonsterPanel&) const = default;
 };
 
+/// The panels of the main window.
+enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaboratory, Setup };
+
+/// They have the same place and size; one is in front.
+struct FrameStack {
+  Panel Front = Panel::Units;
+
+  bool operator==(const FrameStack&) const = default;
+};
+
 /// The working army: what the catalog says of its base army, what the player bought, and what
 /// the controls show.
 struct ArmyState {
@@ -123,9 +133,6 @@ void InitializeVariables(ArmyState& state, const Disk& disk);
 
 /// Shows or hides the twelve controls of a grid line.
 void ShowGridLine(UnitsPanel& grid, Int16 line, bool visible);
-
-/// The panels of `EditFrame`.
-enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaboratory, Setup };
 
 /// Brings a panel to the front; nothing else changes.
 void ShowPanel(ArmyState& state, Panel panel);

@@ -19,6 +19,7 @@ void FillArmySelection(ArmyState& state, const Disk& disk, ArmySelectionForm& fo
 
 /// The selected army becomes `BaseArmyName`. Returns whether the dialog closes; without a selected
 /// name the user is asked for one.
-bool ConfirmArmySelection(ArmyState& state, Host& host, const ArmySelectionForm& form);
+[[nodiscard]] bool ConfirmArmySelection(ArmyState& state, Host& host,
+                                        const ArmySelectionForm& form);
 
 }  // namespace tarnwick

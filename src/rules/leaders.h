@@ -40,10 +40,10 @@ void UpdateLeaderCost(LeaderMgmtForm& form);
 
 /// The focus leaves the command list. Returns true (cancel: the focus stays) when the command was
 /// refused with a message.
-bool CommandBox_Validate(LeaderMgmtForm& form, Host& host);
+[[nodiscard]] bool CommandBox_Validate(LeaderMgmtForm& form, Host& host);
 
 /// Appends the leader and shows its button; it is not chosen and nothing is paid. Returns whether
 /// the dialog closes. Throws SubscriptError for an eighth leader.
-bool DefineLeader(ArmyState& state, Host& host, const LeaderMgmtForm& form);
+[[nodiscard]] bool DefineLeader(ArmyState& state, Host& host, const LeaderMgmtForm& form);
 
 }  // namespace tarnwick

@@ -11,6 +11,6 @@ namespace tarnwick {
 /// The focus leaves `SpecBuy(index)`: buys or gives back cards, paid in command points. Returns
 /// true (cancel: the focus stays) when the entry was refused with a message. A negative quantity
 /// is not refused: it gives command points back.
-bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index);
+[[nodiscard]] bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index);
 
 }  // namespace tarnwick

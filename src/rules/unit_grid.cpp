@@ -15,7 +15,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int black = 0, lightBlue = 9;
 constexpr int lines = UnitsPanel::Column<Label>::Last + 1;
 
 bool InView(const ArmyState& state, const Disk& disk, Int16 row) {
@@ -48,7 +47,7 @@ void FillLine(ArmyState& state, const Disk& disk, Int16 k, Int16 row) {
   for (const auto& [column, text] : CatalogTexts(unit))
     (grid.*column)[k].Caption = text;
   grid.TypeLabel[k].ForeColor =
-      MountedKind(state, disk, unit.UnitType, row) == mounted ? lightBlue : black;
+      MountedKind(state, disk, unit.UnitType, row) == mounted ? Colour::LightBlue : Colour::Black;
   grid.Buy[k].Text = unit.Bought < 1 ? "" : NumberText(unit.Bought);
   grid.UnitTotalLabel[k].Caption = NumberText(unit.Bought * unit.Cost);
   ShowUnitImages(state, k, row);

@@ -12,10 +12,10 @@ namespace tarnwick {
 /// paid in army points; an empty box or 0 gives them back. Returns false when the entry was refused
 /// with a message: the box then keeps the number, army and budget are unchanged. A negative
 /// quantity is not refused: it gives points back.
-bool BuyUnits(ArmyState& state, const Disk& disk, Host& host, Int16 index);
+[[nodiscard]] bool BuyUnits(ArmyState& state, const Disk& disk, Host& host, Int16 index);
 
 /// The focus leaves `Buy(index)`. Returns true (cancel: the focus stays) when the entry was
 /// refused.
-bool Buy_Validate(ArmyState& state, const Disk& disk, Host& host, Int16 index);
+[[nodiscard]] bool Buy_Validate(ArmyState& state, const Disk& disk, Host& host, Int16 index);
 
 }  // namespace tarnwick

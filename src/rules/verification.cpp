@@ -39,7 +39,7 @@ bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
 }
 
 void VerifyBtn_Click(const ArmyState& state, Host& host) {
-  VerifyArmy(state, host, true);
+  static_cast<void>(VerifyArmy(state, host, true));
 }
 
 }  // namespace tarnwick

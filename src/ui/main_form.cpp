@@ -46,12 +46,10 @@ void MainForm::Refresh() {
   if (windowTitle() != title) setWindowTitle(title);
   for (PanelWidget* panel : panels_)
     panel->Refresh();
-  if (editFrame_->currentIndex() != army.EditFrame.Front) {
-    editFrame_->setCurrentIndex(army.EditFrame.Front);
-  }
-  for (auto button = panelButtons_.cbegin(); button != panelButtons_.cend(); ++button) {
-    button.value()->setChecked(button.key() == army.EditFrame.Front);
-  }
+  const int front = static_cast<int>(army.EditFrame.Front);
+  if (editFrame_->currentIndex() != front) editFrame_->setCurrentIndex(front);
+  for (const auto& [panel, button] : panelButtons_)
+    button->setChecked(panel == army.EditFrame.Front);
 }
 
 QWidget* MainForm::NewButtonColumn() {
@@ -84,7 +82,7 @@ void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char*
   auto* button = new PanelButton(name, caption, this);
   button->setCheckable(true);
   column->addWidget(button);
-  panelButtons_.insert(static_cast<int>(panel), button);
+  panelButtons_.emplace_back(panel, button);
   session_.Connect(button, &QPushButton::clicked, show);
 }
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
-#include <QHash>
 #include <QWidget>
 
 #include "rules/army_state.h"
@@ -25,7 +25,7 @@ class MainForm : public QWidget {
   explicit MainForm(Session& session);
 
   /// Runs the start-up. False when a run-time error ended it.
-  bool Start();
+  [[nodiscard]] bool Start();
 
   /// Shows the whole state.
   void Refresh();
@@ -39,7 +39,7 @@ class MainForm : public QWidget {
   QWidget* NewPanelStack();
 
   Session& session_;
-  QHash<int, PanelButton*> panelButtons_;
+  std::vector<std::pair<Panel, PanelButton*>> panelButtons_;
   std::vector<PanelWidget*> panels_;
   QStackedLayout* editFrame_ = nullptr;
 };

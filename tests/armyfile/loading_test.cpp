@@ -65,7 +65,7 @@ TEST_F(Loading, BringsBackTheWholeArmy) {
   EXPECT_EQ(header_.FromData.Text + header_.ToData.Text + ArmyTypeCode(header_), "50030FP");
   EXPECT_EQ(SpecialRulesText(header_), "MOBILITY,LONGSWORD");  // the reset cleared all
   EXPECT_EQ(field_.AreaTerrain[1] + field_.Setup.setupList.Entries.at(0).Text, "SLOPE4");
-  EXPECT_EQ(army_.EditFrame.Front, 0);
+  EXPECT_EQ(army_.EditFrame.Front, Panel::Units);
   EXPECT_EQ(army_.BaseUnits[2].ChosenImageIdx, 2);  // the last line's picture
   EXPECT_EQ(army_.Units.Buy[1].Text + army_.Units.ImageName[1].Text(), "2Javelin");
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <random>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -49,7 +50,7 @@ class Player : public Desk {
     for (int j = 0; j < army_.TotSpecial.Value(); ++j) {
       army_.Command.SpecBuy[j].Text = std::to_string(Any(0, 2));
       if (SpecBuy_Validate(army_, Host, j)) army_.Command.SpecBuy[j].Text = "";
-      SpecBuy_Validate(army_, Host, j);
+      EXPECT_FALSE(SpecBuy_Validate(army_, Host, j));
     }
     for (int i = 0; i < 3 && !army_.BrakkaMode; ++i)  // Brakka's terrain is not found again
       DropTerrain(Work.Field, army_, Host, Any(0, 5), Any(0, 8));
@@ -112,7 +113,7 @@ class Player : public Desk {
     form.InitiativeBox.ListIndex = Any(0, 3);
     form.CommandBox.ListIndex = 0;
     UpdateLeaderCost(form);
-    if (Any(0, 2) == 0) DefineLeader(army_, Host, form);
+    if (Any(0, 2) == 0) std::ignore = DefineLeader(army_, Host, form);
     for (Int16 i = army_.LeaderCount - 1; army_.SelectedLeader == -1 && i >= 0; i -= 1)
       LeaderName_Click(army_, Host, i);
   }

@@ -64,7 +64,7 @@ TEST_F(Saving, WritesTheWholeArmy) {
   const char* const quantities[] = {"2", "3", "1"};
   for (int k = 0; k < 3; ++k) {
     army_.Units.Buy[k].Text = quantities[k];
-    BuyUnits(army_, sample_.Store, sample_.Host, k);
+    EXPECT_TRUE(BuyUnits(army_, sample_.Store, sample_.Host, k));
   }
   army_.BaseUnits[4].Bought = -1;  // gives no line
   army_.Units.ImageName[1].ListIndex = 1;
@@ -72,7 +72,7 @@ TEST_F(Saving, WritesTheWholeArmy) {
   const char* const cards[] = {"2 cards", "0", "", "1"};
   for (int j = 0; j < 4; ++j) {
     army_.Command.SpecBuy[j].Text = cards[j];
-    SpecBuy_Validate(army_, sample_.Host, j);
+    EXPECT_FALSE(SpecBuy_Validate(army_, sample_.Host, j));
   }
   work_.Field.AreaTerrain[3] = "WOOD";
   work_.Field.AreaTerrain[8] = "CLIFF";

@@ -73,7 +73,7 @@ TEST_F(NewArmy, IsAPlainValue) {
 }
 
 TEST_F(NewArmy, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
-  EXPECT_EQ(army_.EditFrame.Front, 4);
+  EXPECT_EQ(army_.EditFrame.Front, Panel::Management);
   const std::string before = Summary();
   sample_.Folder.Write("brakka/armylist.dat", "[Trolls]\npoints=77\n");
   // The army that was loaded names a further catalog; the second module, too, looks for it in the

@@ -113,7 +113,7 @@ TEST_F(Setups, ShowingASetupWritesNothing) {
   ShowSetup_Click(field_, state_);
   EXPECT_FALSE(panel_.setupFramePanel.Visible);
   Command3_Click(state_);  // deletes nothing but shows the monster laboratory
-  EXPECT_EQ(state_.EditFrame.Front, 5);
+  EXPECT_EQ(state_.EditFrame.Front, Panel::MonsterLaboratory);
   EXPECT_EQ(Listed(panel_.setupList), "3;4;");
   NewMonster(state_.Monster);
   EXPECT_EQ(state_.Monster.M_TQ.Text() + state_.Monster.M_Type.Text(), "4SM");

@@ -79,7 +79,7 @@ TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
   EXPECT_EQ(Points() + Area(2), "79/0CLEAR 33");
   ShowTerrainBtn_Click(field_, state_);
   EXPECT_EQ(Area(2), "CLEAR 03");
-  EXPECT_EQ(state_.EditFrame.Front, 3);
+  EXPECT_EQ(state_.EditFrame.Front, Panel::Terrain);
   field_.AreaTerrain[2] = "CAMP";
   ShowTerrain(field_, state_);
   EXPECT_EQ(Area(2), "CAMP 22");

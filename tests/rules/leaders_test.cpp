@@ -3,6 +3,7 @@
 #include "rules/leaders.h"
 
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -88,9 +89,9 @@ TEST_F(LeaderChoice, TheDialogDefinesLeadersThatNobodyHasChosenYet) {
 
   // The eighth leader has no button, the twelfth no row.
   for (int i = 5; i < 7; ++i)
-    DefineLeader(state_, sample_.Host, form);
+    EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
   for (int i = 7; i < 12; ++i)
-    EXPECT_THROW(DefineLeader(state_, sample_.Host, form), SubscriptError);
+    EXPECT_THROW(std::ignore = DefineLeader(state_, sample_.Host, form), SubscriptError);
   EXPECT_EQ(state_.Leaders[10].Initiative, "4");
   EXPECT_EQ(state_.LeaderCount, 12);
 }

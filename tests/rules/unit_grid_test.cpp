@@ -38,7 +38,8 @@ class Grid : public testing::Test {
     ViewOption_Click(state_, sample_.Store);
     std::string rows;
     for (int k = 0; k <= 22 && grid_.Buy[k].Visible; ++k)
-      rows += grid_.Buy[k].Tag + "." + std::to_string(grid_.TypeLabel[k].ForeColor) + " ";
+      rows += grid_.Buy[k].Tag + "." +
+              (grid_.TypeLabel[k].ForeColor == Colour::LightBlue ? "9" : "0") + " ";
     return rows;
   }
 

@@ -3,6 +3,7 @@
 #include "rules/unit_purchase.h"
 
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -100,7 +101,7 @@ TEST_F(Purchase, AfterAResetQuantitiesCountForWhatTheLinesShow) {
   UnitsPanel& grid = state.Units;
   const auto buy = [&](int line, const char* text) {
     grid.Buy[line].Text = text;
-    BuyUnits(state, twins.Store, twins.Host, line);
+    std::ignore = BuyUnits(state, twins.Store, twins.Host, line);
     std::string bought;
     for (int r = 1; r <= 5; ++r)
       bought += NumberText(state.BaseUnits[r].Bought);

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -78,7 +79,7 @@ TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
     EXPECT_THROW(VerifyBtn_Click(state, sample.Host), SubscriptError);
   }
   state.BaseUnits[1].Bought = state.BaseUnits[2].Bought = 20000;
-  EXPECT_THROW(VerifyArmy(state, sample.Host, false), OverflowError);
+  EXPECT_THROW(std::ignore = VerifyArmy(state, sample.Host, false), OverflowError);
 }
 
 TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {

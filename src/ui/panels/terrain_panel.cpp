@@ -61,7 +61,7 @@ void TerrainPanelWidget::showEvent(QShowEvent* event) {
 }
 
 void TerrainPanelWidget::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) Pick(-1);
+  if (event->key() == Qt::Key_Escape) Pick(std::nullopt);
   PanelWidget::keyPressEvent(event);
 }
 
@@ -84,7 +84,7 @@ QWidget* TerrainPanelWidget::NewPalette() {
       piece->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
     });
     connect(piece, &TerrainTile::clicked, this,
-            [this, kind] { Pick(picked_ == kind ? -1 : kind); });
+            [this, kind] { Pick(picked_ == kind ? std::nullopt : std::optional(kind)); });
   }
   return palette;
 }
@@ -104,7 +104,7 @@ QWidget* TerrainPanelWidget::NewAreas() {
       area->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
     });
     connect(area, &TerrainTile::clicked, this, [this, i] {
-      if (picked_ >= 0) PutDown(picked_, i);
+      if (picked_) PutDown(*picked_, i);
     });
   }
   return areas;
@@ -127,7 +127,7 @@ QWidget* TerrainPanelWidget::NewPointsFrame() {
   return frame;
 }
 
-void TerrainPanelWidget::Pick(int piece) {
+void TerrainPanelWidget::Pick(std::optional<int> piece) {
   picked_ = piece;
   for (int kind = 0; kind < static_cast<int>(pieces_.size()); ++kind) {
     pieces_.at(static_cast<std::size_t>(kind))->Mark(kind == piece);
@@ -135,7 +135,7 @@ void TerrainPanelWidget::Pick(int piece) {
 }
 
 void TerrainPanelWidget::PutDown(int piece, int area) {
-  Pick(-1);
+  Pick(std::nullopt);
   session_.Run([this, piece, area] {
     DropTerrain(session_.Work.Field, session_.Work.Army, session_.User, piece, area);
   });

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "ui/panels/panel_widget.h"
@@ -25,12 +26,12 @@ class TerrainPanelWidget : public PanelWidget {
   QWidget* NewPalette();
   QWidget* NewAreas();
   QWidget* NewPointsFrame();
-  void Pick(int piece);
+  void Pick(std::optional<int> piece);
   void PutDown(int piece, int area);
 
   std::array<QPixmap, 6> pictures_;
   std::vector<TerrainTile*> pieces_;
-  int picked_ = -1;
+  std::optional<int> picked_;
 };
 
 }  // namespace tarnwick

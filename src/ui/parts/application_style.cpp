@@ -12,9 +12,8 @@ QColor AccentColour() {
   return {0x0B, 0x6E, 0x6E};
 }
 
-QColor ClassicColour(int index) {
-  constexpr int lightBlue = 9;
-  return index == lightBlue ? QColor(0x55, 0x55, 0xFF) : QColor(Qt::black);
+QColor ClassicColour(Colour colour) {
+  return colour == Colour::LightBlue ? QColor(0x55, 0x55, 0xFF) : QColor(Qt::black);
 }
 
 void ApplyStyle() {

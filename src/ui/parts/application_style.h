@@ -4,6 +4,8 @@
 
 #include <QColor>
 
+#include "base/controls.h"
+
 namespace tarnwick {
 
 /// Gives the application its own light palette, whatever the desktop's theme.
@@ -12,7 +14,7 @@ void ApplyStyle();
 /// The one accent: the panel in front, the focus, selections.
 QColor AccentColour();
 
-/// A colour of the classic 16-colour palette. Those that the rules don't use show as black.
-QColor ClassicColour(int index);
+/// How a colour of the classic palette is shown.
+QColor ClassicColour(Colour colour);
 
 }  // namespace tarnwick

@@ -14,7 +14,7 @@ void ShowVisible(QWidget* widget, bool visible) {
   if (widget->isHidden() == visible) widget->setVisible(visible);
 }
 
-void ShowColour(QWidget* widget, int foreColor) {
+void ShowColour(QWidget* widget, Colour foreColor) {
   const QColor colour = ClassicColour(foreColor);
   QPalette palette = widget->palette();
   if (palette.color(QPalette::WindowText) == colour) return;

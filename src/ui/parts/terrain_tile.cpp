@@ -70,7 +70,7 @@ void TerrainTile::mousePressEvent(QMouseEvent* event) {
 
 void TerrainTile::mouseMoveEvent(QMouseEvent* event) {
   const int distance = (event->pos() - pressedAt_).manhattanLength();
-  if (kind_ >= 0 && isDown() && distance >= QApplication::startDragDistance()) {
+  if (kind_ && isDown() && distance >= QApplication::startDragDistance()) {
     setDown(false);  // a drag is no click
     Drag();
   } else {
@@ -80,7 +80,7 @@ void TerrainTile::mouseMoveEvent(QMouseEvent* event) {
 
 void TerrainTile::Drag() {
   auto* piece = new QMimeData;
-  piece->setData(pieceFormat, QByteArray::number(kind_));
+  piece->setData(pieceFormat, QByteArray::number(*kind_));
   auto* drag = new QDrag(this);  // the drag machinery deletes it
   drag->setMimeData(piece);
   drag->setPixmap(

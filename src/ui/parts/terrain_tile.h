@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QAbstractButton>
 #include <QPixmap>
@@ -39,7 +40,7 @@ class TerrainTile : public QAbstractButton {
   void Drag();
 
   int side_;
-  int kind_ = -1;
+  std::optional<int> kind_;
   std::function<void(int)> drop_;
   QPixmap picture_;
   QPoint pressedAt_;
