@@ -6,11 +6,11 @@ source tools/set-up
 
 need_to_run
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  build release tarnwick
+  build run tarnwick
   say "Opening the editor; armies are saved in $PWD/program"
   exec program/tarnwick
 fi
 need_hidden_display
-build release tarnwick tour
+build run tarnwick tour
 say "No display: driving the window through a whole army"
 exec xvfb-run -a build/release/tools/tour data build/tour

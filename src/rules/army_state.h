@@ -14,11 +14,11 @@
 
 namespace tarnwick {
 
-/// The editor's own version.
+/// The editor's own version; the build names it.
 struct Version {
-  Int16 Major = 1;
-  Int16 Minor = 2;
-  Int16 Revision = 1;
+  Int16 Major = TARNWICK_VERSION_MAJOR;
+  Int16 Minor = TARNWICK_VERSION_MINOR;
+  Int16 Revision = TARNWICK_VERSION_REVISION;
 
   bool operator==(const Version&) const = default;
 };
