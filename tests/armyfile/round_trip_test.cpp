@@ -139,15 +139,15 @@ class Player : public Desk {
 
 /// Without the card lines that only loading brings in: it shows a 0 for every card that was not
 /// bought, and a 0 is saved.
-std::string WithoutZeroCards(std::string file) {
+std::string WithoutZeroCards(std::string text) {
   for (const char* card : {"rally", "flank", "cohesion", "missile", "caltrop"})
-    file = ReplaceText(std::string(card) + "=0\r\n", "", file);
-  return file;
+    text = ReplaceText(std::string(card) + "=0\r\n", "", text);
+  return text;
 }
 
 /// Random legal armies of every base army in the folder's catalogs, saved and loaded.
 void ExpectRoundTrips(const TempFolder& folder, bool brakka, unsigned seeds) {
-  const std::string file = brakka ? "brakka/x.army" : "x.army";
+  const std::string saved = brakka ? "brakka/x.army" : "x.army";
   Desk catalog(folder.Path());
   catalog.ChooseModule(brakka ? 1 : 0);
   ArmySelectionForm bases;
@@ -162,21 +162,21 @@ void ExpectRoundTrips(const TempFolder& folder, bool brakka, unsigned seeds) {
       maker.MakeArmy(base.Text);
       const std::string made = maker.Seen();
       EXPECT_EQ(maker.Save(), "Army Saved");
-      const std::string first = folder.Read(file);
+      const std::string first = folder.Read(saved);
       Player reader(folder.Path(), brakka, seed);
       reader.Load("x");
       EXPECT_EQ(reader.Host.Heard(), Lines());
       EXPECT_EQ(reader.Seen(), made);
       if (!brakka) reader.AddSetups();
       reader.Save();
-      const std::string second = folder.Read(file);
+      const std::string second = folder.Read(saved);
       EXPECT_TRUE(WithoutZeroCards(second).starts_with(WithoutZeroCards(first))) << first << second;
       const std::string seen = reader.Seen();
       Player last(folder.Path(), brakka, seed);
       last.Load("x");
       EXPECT_EQ(last.Seen(), seen);
       last.Save();
-      EXPECT_EQ(folder.Read(file), second);
+      EXPECT_EQ(folder.Read(saved), second);
     }
   }
 }

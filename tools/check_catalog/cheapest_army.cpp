@@ -36,6 +36,7 @@ std::optional<int> CheapestLegalArmy(const std::vector<UnitRec>& units,
   std::map<Open, int> cheapest = {{start, 0}};
   for (const UnitRec& unit : units) {
     std::vector<int> counted;
+    counted.reserve(limits.size());
     for (const LimitRec& limit : limits)
       counted.push_back(CountFor(limit, unit).Value());
     // Row by row: every state so far, with none to all of the row's units added.
