@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <filesystem>
 
-#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>

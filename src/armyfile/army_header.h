@@ -8,7 +8,6 @@
 
 #include "base/controls.h"
 #include "base/host.h"
-#include "base/int16.h"
 #include "base/table.h"
 #include "catalog/profile_files.h"
 
@@ -23,7 +22,8 @@ struct ArmyHeader {
   std::string ArmyDescription;  ///< its line breaks are "@"
   std::string ArmyPeriod;       ///< "from,to" in years, BC negative
   std::string ArmyImages;       ///< the further image catalog
-  std::string ArmyTypeText;
+  std::string ArmyTypeText;     ///< as the file has it, letters without a check box included; the
+                                ///< boxes are what is saved
 
   TextBox ArmyDesc;
   Frame HistoricTab;
@@ -60,7 +60,8 @@ void ShowPeriod(ArmyHeader& header);
 void TakeArmyType(ArmyHeader& header, std::string_view code);
 
 /// Ticks the special rules that an army file lists. Only the first three in the order of the file
-/// are unticked when it does not list them; the others stay as they are, deliberately.
+/// are unticked when it does not list them; the others stay as the player left them, so that a file
+/// that is silent of them changes nothing.
 void LoadSpecialRules(ArmyHeader& header, const ProfileFiles& files,
                       const std::filesystem::path& army);
 

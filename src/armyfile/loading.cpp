@@ -99,7 +99,7 @@ class ArmyLoader {
     UnitRec& unit = army_.BaseUnits[*row];
     ++unit.Bought;
     army_.PointsSpent += unit.Cost;
-    // The class is asked about here, not the type, deliberately.
+    // By the class, not the type as in the grid: so the counts have always been made.
     ++(MountedKind(army_, disk_, unit.UnitClass, *row) == mounted ? army_.MountedUnits
                                                                   : army_.FootUnits);
     const std::string picture = GetField(line, 6);

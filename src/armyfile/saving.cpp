@@ -94,7 +94,7 @@ class ArmyWriter {
   }
 
   std::string UnitValue(UnitRec unit) const {
-    // "A" is written as "AF" but never read back as "A", deliberately.
+    // The game knows the ability as "AF". A catalog's "A" is not found again by loading.
     if (unit.Missile == "A") unit.Missile = "AF";
     std::string value = IdentityText(unit) + "," + army_.Catalog.Images[unit.ChosenImageIdx].Id;
     if (!unit.SpecialsKey.empty()) value += "," + unit.SpecialsKey;

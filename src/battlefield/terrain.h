@@ -34,7 +34,7 @@ void LoadTerrain(Battlefield& field, ArmyState& state, const ProfileFiles& files
 void ShowTerrainPoints(Battlefield& field, const ArmyState& state);
 
 /// Shows the free points and what lies on the areas. An area that was cleared keeps its picture
-/// until a piece is dropped on it, deliberately.
+/// until a piece is dropped on it: pictures come with pieces, and clearing brings none.
 void ShowTerrain(Battlefield& field, const ArmyState& state);
 
 /// Whether both prices of a kind are free.

@@ -94,7 +94,7 @@ struct ArmyState {
   std::filesystem::path ArmyListFile;
   bool BrakkaMode = false;
   std::string BaseArmyName;  ///< its section in the catalog; "" when none is chosen
-  bool FormReady = false;
+  bool FormReady = false;  ///< start-up is over; told for whoever must not act before, none so far
   bool SpecRowsLoaded = false;
   bool GridFilling = false;   ///< code, not the user, fills the grid
   bool SetupLoading = false;  ///< code, not the user, fills the image lists or a setup
@@ -105,7 +105,7 @@ struct ArmyState {
   Int16 CommandPts;   ///< command points still to spend, on leaders, cards and terrain
 
   Int16 NumUnits;                 ///< unit lines of the army file that was loaded
-  Int16 FootUnits, MountedUnits;  ///< how they fight
+  Int16 FootUnits, MountedUnits;  ///< how they fight; found while loading, shown nowhere yet
 
   Int16 TotUnits, TotLimits, TotSpecial;
   Table<UnitRec, 1, 200> BaseUnits;

@@ -127,7 +127,7 @@ void LoadSpecials(ArmyState& state, const Disk& disk) {
   }
   if (state.SpecRowsLoaded) return;  // rows beyond this army's stay as an earlier one left them
   for (Int16 i = state.TotSpecial + 1; i <= 4; ++i) {
-    // The rows that fill the panel up have no name but can be seen, deliberately.
+    // The panel shows four rows whatever the army offers; without a card there is no name to show.
     LoadCardRow(panel, i - 1);
     ShowCardRow(panel, i - 1, false);
   }

@@ -14,7 +14,7 @@ namespace tarnwick {
 namespace {
 
 /// Types whose class does not matter. The codes 2, 16 and 17 are free.
-constexpr std::array<std::pair<std::string_view, int>, 18> typeCodes = {{
+constexpr std::array<std::pair<std::string_view, int>, 17> typeCodes = {{
     {"PH", 1},
     {"MI", 4},
     {"BI", 5},
@@ -32,7 +32,6 @@ constexpr std::array<std::pair<std::string_view, int>, 18> typeCodes = {{
     {"YU", 102},
     {"TP", 103},
     {"KB", 104},
-    {"", 0},
 }};
 
 constexpr std::array<std::string_view, 9> mountedTypes = {"HC", "RC", "BC", "LN", "EL",

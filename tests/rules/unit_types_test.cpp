@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "rules/unit_types.h"
 
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include "rules/army_state.h"

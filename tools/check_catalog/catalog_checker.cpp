@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <string_view>
 
 #include "base/ansi.h"
 #include "base/errors.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "catalog/image_catalog.h"
 #include "catalog/special_abilities.h"

@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "base/ansi.h"
+#include "base/numbers.h"
 #include "catalog/profile_text.h"
 
 namespace tarnwick {

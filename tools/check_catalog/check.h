@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "base/numbers.h"
 #include "catalog/profile_files.h"
 #include "check_catalog/catalog_problem.h"
 

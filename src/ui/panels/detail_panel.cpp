@@ -3,7 +3,6 @@
 #include "ui/panels/detail_panel.h"
 
 #include <QHBoxLayout>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "ui/parts/qt_text.h"

@@ -8,7 +8,6 @@
 
 #include "armyfile/loading.h"
 #include "armyfile/saving.h"
-#include "ui/parts/qt_text.h"
 #include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
