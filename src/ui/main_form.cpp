@@ -58,18 +58,14 @@ QWidget* MainForm::NewButtonColumn() {
   column->setBackgroundRole(QPalette::Button);
   auto* layout = new QVBoxLayout(column);
   layout->setSpacing(2);
-  const auto bringToFront = [this](Panel panel) {
-    return [this, panel] { ShowPanel(session_.Work.Army, panel); };
-  };
-  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units, bringToFront(Panel::Units));
-  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command, bringToFront(Panel::Command));
-  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail, bringToFront(Panel::Detail));
+  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units);
+  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command);
+  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail);
   AddPanelButton(layout, "ShowTerrainBtn", "Terrain", Panel::Terrain,
                  [this] { ShowTerrainBtn_Click(session_.Work.Field, session_.Work.Army); });
   AddPanelButton(layout, "ShowSetup", "Setup", Panel::Setup,
                  [this] { ShowSetup_Click(session_.Work.Field, session_.Work.Army); });
-  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management,
-                 bringToFront(Panel::Management));
+  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management);
   layout->addSpacing(16);
   AddQuickSave(layout);
   layout->addStretch();
@@ -78,12 +74,13 @@ QWidget* MainForm::NewButtonColumn() {
 }
 
 void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char* caption,
-                              Panel panel, const std::function<void()>& show) {
+                              Panel panel, std::function<void()> show) {
   auto* button = new PanelButton(name, caption, this);
   button->setCheckable(true);
   column->addWidget(button);
   panelButtons_.emplace_back(panel, button);
-  session_.Connect(button, &QPushButton::clicked, show);
+  if (!show) show = [this, panel] { ShowPanel(session_.Work.Army, panel); };
+  session_.Connect(button, show);
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {
@@ -93,7 +90,7 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
   entry->setShortcut(QKeySequence::Save);
   addAction(entry);
   const auto save = [this] { SaveArmy(session_.Work, session_.Store, session_.User); };
-  session_.Connect(button, &QPushButton::clicked, save);
+  session_.Connect(button, save);
   session_.Connect(entry, &QAction::triggered, save);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +

@@ -33,7 +33,7 @@ class MainForm : public QWidget {
  private:
   QWidget* NewButtonColumn();
   void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel,
-                      const std::function<void()>& show);
+                      std::function<void()> show = nullptr);
   void AddQuickSave(QVBoxLayout* column);
   void AddHeaderButtons(QVBoxLayout* column);
   QWidget* NewPanelStack();

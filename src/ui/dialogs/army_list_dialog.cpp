@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -43,19 +42,17 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   bindings_.Refresh();
 
   const auto showDetail = [this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); };
+  const auto choose = [this] {
+    if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
+  };
   session_.Connect(list, &QListWidget::itemSelectionChanged, showDetail);
-  OnDoubleClick(list, [this, showDetail] {
+  OnDoubleClick(list, [this, showDetail, choose] {
     session_.Run(showDetail);
-    session_.Run([this] { Select(); });
+    session_.Run(choose);
   });
-  session_.Connect(select, &QPushButton::clicked, [this] { Select(); });
-  session_.Connect(remove, &QPushButton::clicked, [this] {
-    DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_);
-  });
-}
-
-void ArmyListDialog::Select() {
-  if (SelectArmy(session_.Work, session_.Store, session_.User, form_)) accept();
+  session_.Connect(select, choose);
+  session_.Connect(
+      remove, [this] { DelArmy_Click(session_.Work.Army, session_.Store, session_.User, form_); });
 }
 
 }  // namespace tarnwick

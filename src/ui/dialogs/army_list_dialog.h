@@ -13,8 +13,6 @@ class ArmyListDialog : public Dialog {
   ArmyListDialog(Session& session, QWidget* parent);
 
  private:
-  void Select();
-
   ArmyListForm form_;
 };
 

@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -27,7 +26,7 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
     if (ConfirmArmySelection(session_.Work.Army, session_.User, form_)) accept();
   };
   OnDoubleClick(list, [this, choose] { session_.Run(choose); });
-  session_.Connect(confirm, &QPushButton::clicked, choose);
+  session_.Connect(confirm, choose);
 }
 
 }  // namespace tarnwick

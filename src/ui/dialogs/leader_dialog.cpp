@@ -5,7 +5,6 @@
 #include <QFormLayout>
 #include <QPushButton>
 
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -25,22 +24,20 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
   define->setDefault(true);
 
   auto* layout = new QFormLayout(this);
-  layout->addRow(NewLabel("Label2", "Name:", this), name);
-  layout->addRow(NewLabel("Label1", "Initiative:", this), initiative);
-  layout->addRow(NewLabel("Label3", "Command:", this), command);
-  layout->addRow(NewLabel("Label4", "Cost:", this), cost);
+  const auto addRow = [&](const char* label, const char* caption, auto* widget, auto& control) {
+    layout->addRow(NewLabel(label, caption, this), bindings_.Add(widget, control));
+  };
+  addRow("Label2", "Name:", name, form_.LeaderName);
+  addRow("Label1", "Initiative:", initiative, form_.InitiativeBox);
+  addRow("Label3", "Command:", command, form_.CommandBox);
+  addRow("Label4", "Cost:", cost, form_.leaderCost);
   layout->addRow(define);
-
-  bindings_.Add(name, form_.LeaderName);
-  bindings_.Add(initiative, form_.InitiativeBox);
-  bindings_.Add(command, form_.CommandBox);
-  bindings_.Add(cost, form_.leaderCost);
   bindings_.Refresh();
 
   for (QComboBox* list : {initiative, command})
-    session_.Connect(list, &QComboBox::activated, [this] { UpdateLeaderCost(form_); });
+    session_.Connect(list, [this] { UpdateLeaderCost(form_); });
   session_.Guard(command, [this] { return CommandBox_Validate(form_, session_.User); });
-  session_.Connect(define, &QPushButton::clicked, [this] {
+  session_.Connect(define, [this] {
     if (DefineLeader(session_.Work.Army, session_.User, form_)) accept();
   });
 }

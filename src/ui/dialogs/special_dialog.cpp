@@ -7,7 +7,6 @@
 
 #include "rules/unit_types.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {

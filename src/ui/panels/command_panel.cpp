@@ -10,7 +10,6 @@
 #include "rules/special_cards.h"
 #include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -42,36 +41,32 @@ CommandPanelWidget::CommandPanelWidget(Session& session)
 }
 
 void CommandPanelWidget::Refresh() {
-  while (cardRowCount_ < session_.Work.Army.Command.SpecBuy.Count())
+  while (cardRowCount_ < army_.Command.SpecBuy.Count())
     AddCardRow();
   PanelWidget::Refresh();
 }
 
 QWidget* CommandPanelWidget::NewLeaderFrame() {
-  CommandPanel& command = session_.Work.Army.Command;
   auto* frame = NewFrame("LeaderFrame", "", this);
   auto* layout = new QVBoxLayout(frame);
   auto* heading = NewLabel("Label4", "Name: $$  initiative/command", frame);
   heading->setForegroundRole(QPalette::PlaceholderText);
   layout->addWidget(heading);
-  QButtonGroup* leaders = NewOptions("LeaderName", 7, frame);
-  for (QAbstractButton* leader : leaders->buttons()) {
+  auto* leaders =
+      bindings_.Add(NewOptions("LeaderName", 7, layout, frame), army_.Command.LeaderName);
+  for (QAbstractButton* leader : leaders->buttons())
     leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    layout->addWidget(leader);
-  }
   auto* define = Named(new QPushButton(StandardIcon(), "Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
   layout->addSpacing(8);
   layout->addWidget(define, 0, Qt::AlignLeft);
 
-  bindings_.Add(leaders, command.LeaderName);
-  bindings_.Add([frame, &caption = command.LeaderFrame.Caption] {
+  bindings_.Add([frame, &caption = army_.Command.LeaderFrame.Caption] {
     if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
   });
-  session_.Connect(leaders, &QButtonGroup::idClicked, [this, leaders] {
-    LeaderName_Click(session_.Work.Army, session_.User, leaders->checkedId());
-  });
-  session_.Connect(define, &QPushButton::clicked, [this] { session_.User.ShowLeaderMgmtForm(); });
+  session_.Connect(leaders,
+                   [this, leaders] { LeaderName_Click(army_, user_, leaders->checkedId()); });
+  session_.Connect(define, [this] { user_.ShowLeaderMgmtForm(); });
   return frame;
 }
 
@@ -91,24 +86,18 @@ QWidget* CommandPanelWidget::NewSpecialFrame() {
 }
 
 void CommandPanelWidget::AddCardRow() {
-  CommandPanel& command = session_.Work.Army.Command;
+  CommandPanel& command = army_.Command;
   const int j = cardRowCount_++;
   auto* name = NewLabel(ElementName("SpecNameLabel", j), "", cards_);
   auto* cost = NewNumberLabel(ElementName("SpecCostLabel", j), cards_);
   auto* most = NewNumberLabel(ElementName("SpecMaxLabel", j), cards_);
   auto* quantity = NewQuantityBox(ElementName("SpecBuy", j), cards_);
   quantity->setFixedWidth(TextWidth(quantity, 7));
-  int column = 0;
-  for (QWidget* widget : {static_cast<QWidget*>(name), static_cast<QWidget*>(cost),
-                          static_cast<QWidget*>(most), static_cast<QWidget*>(quantity)}) {
-    cardRows_->addWidget(widget, j + 1, column++);
-  }
-  bindings_.Add(name, command.SpecNameLabel[j]);
-  bindings_.Add(cost, command.SpecCostLabel[j]);
-  bindings_.Add(most, command.SpecMaxLabel[j]);
-  bindings_.Add(quantity, command.SpecBuy[j]);
-  session_.Guard(quantity,
-                 [this, j] { return SpecBuy_Validate(session_.Work.Army, session_.User, j); });
+  cardRows_->addWidget(bindings_.Add(name, command.SpecNameLabel[j]), j + 1, 0);
+  cardRows_->addWidget(bindings_.Add(cost, command.SpecCostLabel[j]), j + 1, 1);
+  cardRows_->addWidget(bindings_.Add(most, command.SpecMaxLabel[j]), j + 1, 2);
+  cardRows_->addWidget(bindings_.Add(quantity, command.SpecBuy[j]), j + 1, 3);
+  session_.Guard(quantity, [this, j] { return SpecBuy_Validate(army_, user_, j); });
 }
 
 }  // namespace tarnwick

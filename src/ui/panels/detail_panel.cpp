@@ -5,8 +5,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -24,22 +22,18 @@ DetailPanelWidget::DetailPanelWidget(Session& session)
 }
 
 QWidget* DetailPanelWidget::NewDescriptionFrame() {
-  ArmyHeader& header = session_.Work.Header;
   auto* frame = NewFrame("Frame3", "Army Description ", this);
   auto* layout = new QVBoxLayout(frame);
-  auto* description = NewDescriptionBox("ArmyDesc", 1, frame);
+  auto* description = bindings_.Add(NewDescriptionBox("ArmyDesc", 1, frame), header_.ArmyDesc);
   layout->addWidget(description);
-  bindings_.Add(description, header.ArmyDesc);
-  session_.Connect(description, &QPlainTextEdit::textChanged,
-                   [this] { ArmyDesc_Change(session_.Work.Header); });
+  session_.Connect(description, [this] { ArmyDesc_Change(header_); });
   return frame;
 }
 
 QWidget* DetailPanelWidget::NewPeriodFrame() {
-  ArmyHeader& header = session_.Work.Header;
   auto* frame = NewFrame("HistoricTab", "Historical Period", this);
   auto* layout = new QHBoxLayout(frame);
-  bindings_.AddVisible(frame, header.HistoricTab.Visible);
+  bindings_.AddVisible(frame, header_.HistoricTab.Visible);
 
   using Validate = bool (*)(ArmyHeader&, Host&);
   using Click = void (*)(ArmyHeader&);
@@ -50,60 +44,48 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     auto* row = new QHBoxLayout(half);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(NewLabel(labelName, caption, half));
-    auto* year = NewQuantityBox(boxName, half);
+    auto* year = bindings_.Add(NewQuantityBox(boxName, half), box);
     year->setFixedWidth(TextWidth(year, 8));
     row->addWidget(year);
-    QButtonGroup* eras = NewOptions(eraName, 2, half);
-    for (QAbstractButton* option : eras->buttons())
-      row->addWidget(option);
+    auto* eras = bindings_.Add(NewOptions(eraName, 2, row, half), era);
     layout->addWidget(half);
-
-    bindings_.Add(year, box);
-    bindings_.Add(eras, era);
-    session_.Guard(year,
-                   [this, validate] { return validate(session_.Work.Header, session_.User); });
-    session_.Connect(eras, &QButtonGroup::idClicked,
-                     [this, click] { click(session_.Work.Header); });
+    session_.Guard(year, [this, validate] { return validate(header_, user_); });
+    session_.Connect(eras, [this, click] { click(header_); });
   };
-  add("Frame9", "Label30", "From:", "FromData", header.FromData, FromData_Validate, "FromACBC",
-      header.FromACBC, FromACBC_Click);
+  add("Frame9", "Label30", "From:", "FromData", header_.FromData, FromData_Validate, "FromACBC",
+      header_.FromACBC, FromACBC_Click);
   layout->addSpacing(16);
-  add("Frame8", "Label29", "To:", "ToData", header.ToData, ToData_Validate, "toACBC", header.toACBC,
-      toACBC_Click);
+  add("Frame8", "Label29", "To:", "ToData", header_.ToData, ToData_Validate, "toACBC",
+      header_.toACBC, toACBC_Click);
   return frame;
 }
 
 QWidget* DetailPanelWidget::NewTypeFrame() {
-  ArmyHeader& header = session_.Work.Header;
   auto* frame = NewFrame("Frame6", "Army Type", this);
   auto* layout = new QVBoxLayout(frame);
   const auto add = [&](const char* name, const char* caption, CheckBox& control) {
-    auto* box = Named(new QCheckBox(caption, frame), name);
-    layout->addWidget(box);
-    bindings_.Add(box, control);
+    layout->addWidget(bindings_.Add(Named(new QCheckBox(caption, frame), name), control));
   };
-  add("TYPE_IsPersonal", "Personal", header.TYPE_IsPersonal);
-  add("TYPE_IsFantasy", "Fantasy", header.TYPE_IsFantasy);
+  add("TYPE_IsPersonal", "Personal", header_.TYPE_IsPersonal);
+  add("TYPE_IsFantasy", "Fantasy", header_.TYPE_IsFantasy);
   return frame;
 }
 
 QWidget* DetailPanelWidget::NewRulesFrame() {
-  ArmyHeader& header = session_.Work.Header;
   auto* frame = NewFrame("SpecRuleFrame", " Special Rules ", this);
   auto* layout = new QGridLayout(frame);
   int place = 0;
   const auto add = [&](const char* name, const char* caption, CheckBox& control) {
     auto* box = Named(new QCheckBox(caption, frame), name);
-    layout->addWidget(box, place % 3, place / 3);
+    layout->addWidget(bindings_.Add(box, control), place % 3, place / 3);
     ++place;
-    bindings_.Add(box, control);
   };
-  add("Discipline", "Discipline", header.Discipline);
-  add("Ferocity", "Ferocity", header.Ferocity);
-  add("TribalCheck", "Tribal Command", header.TribalCheck);
-  add("Mobility", "Mobility", header.Mobility);
-  add("LongSword", "Long Sword", header.LongSword);
-  add("FOW", "FOW", header.FOW);
+  add("Discipline", "Discipline", header_.Discipline);
+  add("Ferocity", "Ferocity", header_.Ferocity);
+  add("TribalCheck", "Tribal Command", header_.TribalCheck);
+  add("Mobility", "Mobility", header_.Mobility);
+  add("LongSword", "Long Sword", header_.LongSword);
+  add("FOW", "FOW", header_.FOW);
   return frame;
 }
 

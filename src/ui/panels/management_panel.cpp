@@ -8,7 +8,6 @@
 
 #include "armyfile/loading.h"
 #include "armyfile/saving.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -24,21 +23,17 @@ ManagementPanelWidget::ManagementPanelWidget(Session& session)
 QWidget* ManagementPanelWidget::NewModuleFrame() {
   auto* frame = NewFrame("Frame10", "Module", this);
   auto* layout = new QHBoxLayout(frame);
-  QButtonGroup* modules = NewOptions("modOption", 2, frame);
-  for (QAbstractButton* option : modules->buttons())
-    layout->addWidget(option);
+  auto* modules = NewOptions("modOption", 2, layout, frame);
   layout->addStretch();
-  bindings_.Add(modules, session_.Work.Army.Management.modOption);
-  session_.Connect(modules, &QButtonGroup::idClicked,
-                   [this] { modOption_Click(session_.Work, session_.Store); });
+  bindings_.Add(modules, army_.Management.modOption);
+  session_.Connect(modules, [this] { modOption_Click(work_, disk_); });
   return frame;
 }
 
 QWidget* ManagementPanelWidget::NewNameFrame() {
-  ManagementPanel& management = session_.Work.Army.Management;
   auto* frame = NewFrame("", "Army", this);
-  auto* name = NewTextBox("ArmyName", frame);
-  auto* file = NewFileNameBox("ArmyFileName", frame);
+  auto* name = bindings_.Add(NewTextBox("ArmyName", frame), army_.Management.ArmyName);
+  auto* file = bindings_.Add(NewFileNameBox("ArmyFileName", frame), army_.Management.ArmyFileName);
   auto* fileHint = NewLabel("NewArmyFile", "", frame);
   fileHint->setForegroundRole(QPalette::PlaceholderText);
   name->setMinimumWidth(TextWidth(name, 48));
@@ -51,10 +46,8 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   layout->addWidget(fileHint, 1, 2);
   layout->setColumnStretch(2, 1);
 
-  bindings_.Add(name, management.ArmyName);
-  bindings_.Add(file, management.ArmyFileName);
   bindings_.Add([fileHint, this] {
-    fileHint->setText(session_.Work.Army.BrakkaMode ? ".army in the folder brakka" : ".army");
+    fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
   });
   return frame;
 }
@@ -74,12 +67,9 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* save = add("SaveBtn", "Save Army");
   layout->addStretch();
   setFocusProxy(newArmy);
-  session_.Connect(newArmy, &QPushButton::clicked,
-                   [this] { NewArmyBtn_Click(session_.Work, session_.Store, session_.User); });
-  session_.Connect(load, &QPushButton::clicked,
-                   [this] { LoadBtn_Click(session_.Work, session_.Store, session_.User); });
-  session_.Connect(save, &QPushButton::clicked,
-                   [this] { SaveArmy(session_.Work, session_.Store, session_.User); });
+  session_.Connect(newArmy, [this] { NewArmyBtn_Click(work_, disk_, user_); });
+  session_.Connect(load, [this] { LoadBtn_Click(work_, disk_, user_); });
+  session_.Connect(save, [this] { SaveArmy(work_, disk_, user_); });
   return row;
 }
 

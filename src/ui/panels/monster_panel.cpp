@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -15,16 +14,14 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
     : PanelWidget(Panel::MonsterLaboratory, "Monster Laboratory", session) {
   auto* lists = new QFormLayout;
   lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-  MonsterPanel& monster = session.Work.Army.Monster;
   const auto addList = [&](const char* name, const char* caption, ListBox& control) {
     auto* list = Named(new QComboBox(this), name);
     list->setMinimumContentsLength(6);
-    lists->addRow(caption, list);
-    bindings_.Add(list, control);
+    lists->addRow(caption, bindings_.Add(list, control));
   };
-  addList("M_Size", "Size", monster.M_Size);
-  addList("M_TQ", "TQ", monster.M_TQ);
-  addList("M_Type", "Type", monster.M_Type);
+  addList("M_Size", "Size", army_.Monster.M_Size);
+  addList("M_TQ", "TQ", army_.Monster.M_TQ);
+  addList("M_Type", "Type", army_.Monster.M_Type);
   Body()->addLayout(lists);
 
   auto* buttons = new QHBoxLayout;
@@ -37,8 +34,7 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
   Body()->addLayout(buttons);
   Body()->addStretch();
 
-  session_.Connect(newMonster, &QPushButton::clicked,
-                   [this] { NewMonster(session_.Work.Army.Monster); });
+  session_.Connect(newMonster, [this] { NewMonster(army_.Monster); });
 }
 
 }  // namespace tarnwick

@@ -6,12 +6,11 @@
 
 #include "rules/army_state.h"
 #include "ui/parts/bindings.h"
+#include "ui/parts/session.h"
 
 class QVBoxLayout;
 
 namespace tarnwick {
-
-class Session;
 
 /// One of the panels `EditFrame`: its caption on top, its contents below.
 class PanelWidget : public QWidget {
@@ -25,6 +24,12 @@ class PanelWidget : public QWidget {
   QVBoxLayout* Body() { return body_; }
 
   Session& session_;
+  WorkingArmy& work_ = session_.Work;
+  ArmyState& army_ = work_.Army;
+  Battlefield& field_ = work_.Field;
+  ArmyHeader& header_ = work_.Header;
+  Disk& disk_ = session_.Store;
+  Host& user_ = session_.User;
   Bindings bindings_;
 
  private:

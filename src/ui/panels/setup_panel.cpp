@@ -8,7 +8,6 @@
 
 #include "battlefield/setups.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -34,23 +33,18 @@ QWidget* SetupPanelWidget::NewSetupList() {
   layout->addWidget(remove);
   side->setFixedWidth(TextWidth(side, 20));
 
-  bindings_.Add(list, session_.Work.Field.Setup.setupList);
-  const auto choose = [this] {
-    setupList_Click(session_.Work.Field, session_.Work.Army, session_.Store);
-  };
+  bindings_.Add(list, field_.Setup.setupList);
+  const auto choose = [this] { setupList_Click(field_, army_, disk_); };
   session_.Connect(list, &QListWidget::itemSelectionChanged, choose);
   // An entry that is selected already shows its setup again, as after the panel hid it.
   session_.Connect(list, &QListWidget::itemClicked, choose);
   session_.Connect(list, &QListWidget::itemActivated, choose);
-  session_.Connect(create, &QPushButton::clicked, [this] {
-    Command6_Click(session_.Work.Field, session_.Work.Army, session_.Store);
-  });
-  session_.Connect(remove, &QPushButton::clicked, [this] { Command3_Click(session_.Work.Army); });
+  session_.Connect(create, [this] { Command6_Click(field_, army_, disk_); });
+  session_.Connect(remove, [this] { Command3_Click(army_); });
   return side;
 }
 
 QWidget* SetupPanelWidget::NewSetupFrame() {
-  SetupPanel& setup = session_.Work.Field.Setup;
   auto* frame = Named(new QWidget(this), "setupFramePanel");
   auto* layout = new QGridLayout(frame);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -58,7 +52,7 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
-  auto* units = Named(new QListWidget(frame), "unitList");
+  auto* units = bindings_.Add(Named(new QListWidget(frame), "unitList"), field_.Setup.unitList);
   units->setMinimumWidth(TextWidth(units, 28));
   layout->addWidget(units, 0, 1, 3, 1);
   layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0, 1, 2);
@@ -66,12 +60,9 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(description, 4, 0, 1, 2);
   layout->setRowStretch(4, 1);
 
-  bindings_.AddVisible(frame, setup.setupFramePanel.Visible);
-  bindings_.Add(units, setup.unitList);
-  bindings_.Add(description, setup.description);
-  session_.Connect(description, &QPlainTextEdit::textChanged, [this] {
-    description_Change(session_.Work.Field, session_.Work.Army, session_.Store);
-  });
+  bindings_.AddVisible(frame, field_.Setup.setupFramePanel.Visible);
+  bindings_.Add(description, field_.Setup.description);
+  session_.Connect(description, [this] { description_Change(field_, army_, disk_); });
   return frame;
 }
 
@@ -93,12 +84,9 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
     unit->setBackgroundRole(QPalette::Base);
     unit->setMinimumWidth(TextWidth(unit, 26));
     layout->addWidget(assign, place - firstPlace, 1);
-    layout->addWidget(unit, place - firstPlace, 2);
-    bindings_.Add(unit, session_.Work.Field.Setup.unit[place]);
-    session_.Connect(assign, &QPushButton::clicked, [this, place] {
-      assignBtn_Click(session_.Work.Field, session_.Work.Army, session_.Store, session_.User,
-                      place);
-    });
+    layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), place - firstPlace, 2);
+    session_.Connect(assign,
+                     [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   }
   layout->setColumnStretch(2, 1);
   return zone;

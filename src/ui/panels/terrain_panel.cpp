@@ -10,7 +10,6 @@
 
 #include "battlefield/terrain.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/terrain_tile.h"
 #include "ui/parts/widgets.h"
 
@@ -79,10 +78,7 @@ QWidget* TerrainPanelWidget::NewPalette() {
     auto* caption = NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette);
     layout->addWidget(piece, kind, 0);
     layout->addWidget(caption, kind, 1);
-    const PictureBox& control = session_.Work.Field.Terrain.TerrImg[kind];
-    bindings_.Add([this, piece, &control] {
-      piece->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
-    });
+    AddPicture(piece, field_.Terrain.TerrImg[kind]);
     connect(piece, &TerrainTile::clicked, this,
             [this, kind] { Pick(picked_ == kind ? std::nullopt : std::optional(kind)); });
   }
@@ -99,10 +95,7 @@ QWidget* TerrainPanelWidget::NewAreas() {
     area->setToolTip(QString("Area %1").arg(i + 1));
     area->MakeArea([this, i](int piece) { PutDown(piece, i); });
     layout->addWidget(area, i / 3, i % 3);
-    const PictureBox& control = session_.Work.Field.Terrain.Area[i];
-    bindings_.Add([this, area, &control] {
-      area->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
-    });
+    AddPicture(area, field_.Terrain.Area[i]);
     connect(area, &TerrainTile::clicked, this, [this, i] {
       if (picked_) PutDown(*picked_, i);
     });
@@ -111,20 +104,22 @@ QWidget* TerrainPanelWidget::NewAreas() {
 }
 
 QWidget* TerrainPanelWidget::NewPointsFrame() {
-  const TerrainPanel& terrain = session_.Work.Field.Terrain;
   auto* frame = NewFrame("Frame5", "Points", this);
   auto* layout = new QGridLayout(frame);
-  auto* armyPoints = NewNumberLabel("ArmyPts", frame);
-  auto* commandPoints = NewNumberLabel("CommandPts", frame);
   layout->addWidget(NewLabel("Label21", "Army pts", frame), 0, 0);
-  layout->addWidget(armyPoints, 0, 1);
+  layout->addWidget(bindings_.Add(NewNumberLabel("ArmyPts", frame), field_.Terrain.ArmyPts), 0, 1);
   layout->addWidget(NewLabel("Label20", "Command pts", frame), 1, 0);
-  layout->addWidget(commandPoints, 1, 1);
+  auto* commandPoints = NewNumberLabel("CommandPts", frame);
+  layout->addWidget(bindings_.Add(commandPoints, field_.Terrain.CommandPts), 1, 1);
   layout->addWidget(NewLabel("Label22", "", frame), 2, 0);
   layout->setColumnMinimumWidth(1, TextWidth(frame, 7));
-  bindings_.Add(armyPoints, terrain.ArmyPts);
-  bindings_.Add(commandPoints, terrain.CommandPts);
   return frame;
+}
+
+void TerrainPanelWidget::AddPicture(TerrainTile* tile, const PictureBox& control) {
+  bindings_.Add([this, tile, &control] {
+    tile->ShowPicture(pictures_.at(static_cast<std::size_t>(control.Picture)));
+  });
 }
 
 void TerrainPanelWidget::Pick(std::optional<int> piece) {
@@ -136,9 +131,7 @@ void TerrainPanelWidget::Pick(std::optional<int> piece) {
 
 void TerrainPanelWidget::PutDown(int piece, int area) {
   Pick(std::nullopt);
-  session_.Run([this, piece, area] {
-    DropTerrain(session_.Work.Field, session_.Work.Army, session_.User, piece, area);
-  });
+  session_.Run([this, piece, area] { DropTerrain(field_, army_, user_, piece, area); });
 }
 
 }  // namespace tarnwick

@@ -26,6 +26,7 @@ class TerrainPanelWidget : public PanelWidget {
   QWidget* NewPalette();
   QWidget* NewAreas();
   QWidget* NewPointsFrame();
+  void AddPicture(TerrainTile* tile, const PictureBox& control);
   void Pick(std::optional<int> piece);
   void PutDown(int piece, int area);
 

@@ -14,27 +14,13 @@
 #include "rules/unit_purchase.h"
 #include "rules/verification.h"
 #include "ui/parts/qt_text.h"
-#include "ui/parts/session.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 namespace {
 
 /// The grid's columns from left to right, the last two without a heading of their own in the rules.
-enum Column {
-  type,
-  unitClass,
-  tq,
-  unitSize,
-  missile,
-  cost,
-  most,
-  total,
-  buy,
-  image,
-  view,
-  special
-};
+enum Column { type, unitClass, tq, unitSize, missile, cost, most, total, buy, image, view, spec };
 
 struct Heading {
   const char* Name;
@@ -79,35 +65,25 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units,
   middle->addLayout(side);
   Body()->addLayout(middle, 1);
 
-  session_.Connect(verify, &QPushButton::clicked,
-                   [this] { VerifyBtn_Click(session_.Work.Army, session_.User); });
-  session_.Connect(reset, &QPushButton::clicked,
-                   [this] { ResetArmy_Click(session_.Work, session_.Store); });
+  session_.Connect(verify, [this] { VerifyBtn_Click(army_, user_); });
+  session_.Connect(reset, [this] { ResetArmy_Click(work_, disk_); });
 }
 
 QWidget* UnitsPanelWidget::NewViewFrame() {
   auto* frame = NewFrame("Frame4", "View ", this);
   auto* layout = new QHBoxLayout(frame);
-  QButtonGroup* views = NewOptions("ViewOption", 3, frame);
-  for (QAbstractButton* option : views->buttons())
-    layout->addWidget(option);
-  bindings_.Add(views, session_.Work.Army.Units.ViewOption);
-  session_.Connect(views, &QButtonGroup::idClicked,
-                   [this] { ViewOption_Click(session_.Work.Army, session_.Store); });
+  auto* views = NewOptions("ViewOption", 3, layout, frame);
+  bindings_.Add(views, army_.Units.ViewOption);
+  session_.Connect(views, [this] { ViewOption_Click(army_, disk_); });
   return frame;
 }
 
 QWidget* UnitsPanelWidget::NewSummaryFrame() {
-  const UnitsPanel& units = session_.Work.Army.Units;
   auto* frame = NewFrame("Frame1", "Summary", this);
   auto* layout = new QHBoxLayout(frame);
-  auto* points = NewLabel("TotalCost", "", frame);
-  auto* troopQuality = NewLabel("TQinfo", "", frame);
-  layout->addWidget(points);
+  layout->addWidget(bindings_.Add(NewLabel("TotalCost", "", frame), army_.Units.TotalCost));
   layout->addStretch();
-  layout->addWidget(troopQuality);
-  bindings_.Add(points, units.TotalCost);
-  bindings_.Add(troopQuality, units.TQinfo);
+  layout->addWidget(bindings_.Add(NewLabel("TQinfo", "", frame), army_.Units.TQinfo));
   return frame;
 }
 
@@ -140,11 +116,9 @@ void UnitsPanelWidget::AddGridHeadings(QWidget* grid, QGridLayout* layout) {
 }
 
 void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout) {
-  ArmyState& army = session_.Work.Army;
-  UnitsPanel& units = army.Units;
+  UnitsPanel& units = army_.Units;
   const auto put = [&](auto* widget, Column column, auto& control) {
-    bindings_.Add(widget, control);
-    layout->addWidget(widget, line + 1, column);
+    layout->addWidget(bindings_.Add(widget, control), line + 1, column);
   };
   const auto putLabel = [&](const char* name, Column column, const Label& control) {
     const bool number = headings.at(column).Number;
@@ -166,9 +140,7 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   auto* quantity = NewQuantityBox(ElementName("Buy", line), grid);
   quantity->setFixedWidth(TextWidth(grid, headings[buy].Characters));
   put(quantity, buy, units.Buy[line]);
-  session_.Guard(quantity, [this, line] {
-    return Buy_Validate(session_.Work.Army, session_.Store, session_.User, line);
-  });
+  session_.Guard(quantity, [this, line] { return Buy_Validate(army_, disk_, user_, line); });
 
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
   // Its width is the column's; a policy that measures entries would cost at the start.
@@ -177,33 +149,27 @@ void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout)
   pictures->setMaximumWidth(TextWidth(pictures, 40));
   pictures->setFocusPolicy(Qt::StrongFocus);
   put(pictures, image, units.ImageName[line]);
-  session_.Connect(pictures, &QComboBox::activated,
-                   [this, line] { ImageName_Click(session_.Work.Army, line); });
+  session_.Connect(pictures, [this, line] { ImageName_Click(army_, line); });
 
   auto* show = Named(new QPushButton("View", grid), ElementName("ViewBtn", line));
   show->setFixedHeight(quantity->sizeHint().height());
   layout->addWidget(show, line + 1, view);
   bindings_.AddVisible(show, units.ViewBtn[line].Visible);
-  session_.Connect(show, &QPushButton::clicked, [this, line] {
-    ViewBtn_Click(session_.Work.Army, session_.Store, session_.User, line);
-  });
+  session_.Connect(show, [this, line] { ViewBtn_Click(army_, disk_, user_, line); });
 
   auto* abilities = Named(new QToolButton(grid), ElementName("specLabel", line));
   abilities->setAutoRaise(true);
   abilities->setFocusPolicy(Qt::StrongFocus);
   abilities->setFixedHeight(quantity->sizeHint().height());
   abilities->setToolTip("Special abilities");
-  put(abilities, special, units.specLabel[line]);
+  put(abilities, spec, units.specLabel[line]);
   bindings_.Add([abilities, &label = units.specLabel[line]] {
     abilities->setEnabled(!label.Caption.empty());
   });
-  session_.Connect(abilities, &QToolButton::clicked, [this, line] {
-    specLabel_Click(session_.Work.Army, session_.Store, session_.User, line);
-  });
+  session_.Connect(abilities, [this, line] { specLabel_Click(army_, disk_, user_, line); });
 }
 
 QWidget* UnitsPanelWidget::NewLimitsFrame() {
-  const UnitsPanel& units = session_.Work.Army.Units;
   auto* frame = NewFrame("Frame2", "Limits", this);
   auto* layout = new QGridLayout(frame);
   auto* type = NewLabel("Label2", "Type", frame);
@@ -215,10 +181,8 @@ QWidget* UnitsPanelWidget::NewLimitsFrame() {
   for (int line = 0; line < limitLines; ++line) {
     auto* limit = NewLabel(ElementName("TypeLimit", line), "", frame);
     auto* least = NewNumberLabel(ElementName("MinLimit", line), frame);
-    layout->addWidget(limit, line + 1, 0);
-    layout->addWidget(least, line + 1, 1);
-    bindings_.Add(limit, units.TypeLimit[line]);
-    bindings_.Add(least, units.MinLimit[line]);
+    layout->addWidget(bindings_.Add(limit, army_.Units.TypeLimit[line]), line + 1, 0);
+    layout->addWidget(bindings_.Add(least, army_.Units.MinLimit[line]), line + 1, 1);
   }
   layout->setColumnMinimumWidth(0, TextWidth(frame, 12));
   return frame;

@@ -12,10 +12,6 @@ QColor AccentColour() {
   return {0x0B, 0x6E, 0x6E};
 }
 
-QColor ClassicColour(Colour colour) {
-  return colour == Colour::LightBlue ? QColor(0x55, 0x55, 0xFF) : QColor(Qt::black);
-}
-
 void ApplyStyle() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   const QColor window(0xF3, 0xF5, 0xF6);

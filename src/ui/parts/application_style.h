@@ -4,8 +4,6 @@
 
 #include <QColor>
 
-#include "base/controls.h"
-
 namespace tarnwick {
 
 /// Gives the application its own light palette, whatever the desktop's theme.
@@ -13,8 +11,5 @@ void ApplyStyle();
 
 /// The one accent: the panel in front, the focus, selections.
 QColor AccentColour();
-
-/// How a colour of the classic palette is shown.
-QColor ClassicColour(Colour colour);
 
 }  // namespace tarnwick

@@ -4,7 +4,6 @@
 
 #include <QSignalBlocker>
 
-#include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
 
 namespace tarnwick {
@@ -15,7 +14,7 @@ void ShowVisible(QWidget* widget, bool visible) {
 }
 
 void ShowColour(QWidget* widget, Colour foreColor) {
-  const QColor colour = ClassicColour(foreColor);
+  const QColor colour = foreColor == Colour::LightBlue ? QColor(0x55, 0x55, 0xFF) : Qt::black;
   QPalette palette = widget->palette();
   if (palette.color(QPalette::WindowText) == colour) return;
   palette.setColor(QPalette::WindowText, colour);
@@ -31,25 +30,18 @@ void ShowCaption(Button* button, const QString& caption) {
   if (button->text() != caption) button->setText(caption);
 }
 
-QStringList Texts(const ListBox& control) {
+/// Shows the entries of a list.
+template <typename List>
+void ShowEntries(List* widget, const ListBox& control) {
   QStringList texts;
   for (const ListEntry& entry : control.Entries)
     texts.append(ToQt(entry.Text));
-  return texts;
-}
-
-QStringList Texts(const QComboBox& widget) {
-  QStringList texts;
-  for (int i = 0; i < widget.count(); ++i)
-    texts.append(widget.itemText(i));
-  return texts;
-}
-
-QStringList Texts(const QListWidget& widget) {
-  QStringList texts;
-  for (int i = 0; i < widget.count(); ++i)
-    texts.append(widget.item(i)->text());
-  return texts;
+  QStringList shown;
+  for (int i = 0; i < widget->count(); ++i)
+    shown.append(widget->model()->index(i, 0).data().toString());
+  if (shown == texts) return;
+  widget->clear();
+  widget->addItems(texts);
 }
 
 /// A text that was pasted may have line breaks, which no line of a file can hold.
@@ -68,7 +60,7 @@ int SelectedRow(const QListWidget& widget) {
 
 }  // namespace
 
-void Bindings::Add(QLabel* widget, const Label& control) {
+void Bindings::Tie(QLabel* widget, const Label& control) {
   widget->setTextFormat(Qt::PlainText);
   Add([widget, &control] {
     ShowCaption(widget, ToQt(control.Caption));
@@ -77,14 +69,14 @@ void Bindings::Add(QLabel* widget, const Label& control) {
   });
 }
 
-void Bindings::Add(QAbstractButton* widget, const Label& control) {
+void Bindings::Tie(QAbstractButton* widget, const Label& control) {
   Add([widget, &control] {
     ShowCaption(widget, ButtonText(control.Caption));
     ShowVisible(widget, control.Visible);
   });
 }
 
-void Bindings::Add(QLineEdit* widget, TextBox& control) {
+void Bindings::Tie(QLineEdit* widget, TextBox& control) {
   const auto show = [widget, &control] {
     const QString text = ToQt(control.Text);
     if (widget->text() != text) {
@@ -101,7 +93,7 @@ void Bindings::Add(QLineEdit* widget, TextBox& control) {
   Add(show);
 }
 
-void Bindings::Add(QPlainTextEdit* widget, TextBox& control) {
+void Bindings::Tie(QPlainTextEdit* widget, TextBox& control) {
   QObject::connect(widget, &QPlainTextEdit::textChanged, widget,
                    [widget, &control] { control.Text = FromQt(PlainText(*widget)); });
   Add([widget, &control] {
@@ -116,36 +108,28 @@ void Bindings::Add(QPlainTextEdit* widget, TextBox& control) {
   });
 }
 
-void Bindings::Add(QCheckBox* widget, CheckBox& control) {
+void Bindings::Tie(QCheckBox* widget, CheckBox& control) {
   QObject::connect(widget, &QCheckBox::clicked, widget,
                    [&control](bool checked) { control.Value = checked; });
   Add([widget, &control] { ShowChecked(widget, control.Value); });
 }
 
-void Bindings::Add(QComboBox* widget, ListBox& control) {
+void Bindings::Tie(QComboBox* widget, ListBox& control) {
   QObject::connect(widget, &QComboBox::activated, widget,
                    [&control](int index) { control.ListIndex = index; });
   Add([widget, &control] {
-    const QStringList texts = Texts(control);
-    if (Texts(*widget) != texts) {
-      widget->clear();
-      widget->addItems(texts);
-    }
+    ShowEntries(widget, control);
     if (widget->currentIndex() != control.ListIndex) widget->setCurrentIndex(control.ListIndex);
     ShowVisible(widget, control.Visible);
   });
 }
 
-void Bindings::Add(QListWidget* widget, ListBox& control) {
+void Bindings::Tie(QListWidget* widget, ListBox& control) {
   QObject::connect(widget, &QListWidget::itemSelectionChanged, widget,
                    [widget, &control] { control.ListIndex = SelectedRow(*widget); });
   Add([widget, &control] {
     const QSignalBlocker quiet(widget);
-    const QStringList texts = Texts(control);
-    if (Texts(*widget) != texts) {
-      widget->clear();
-      widget->addItems(texts);
-    }
+    ShowEntries(widget, control);
     if (SelectedRow(*widget) == control.ListIndex) return;
     widget->setCurrentRow(control.ListIndex);
     if (!control.HasSelection()) widget->clearSelection();
@@ -156,7 +140,7 @@ void Bindings::AddVisible(QWidget* widget, const bool& visible) {
   Add([widget, &visible] { ShowVisible(widget, visible); });
 }
 
-void Bindings::AddOptions(QButtonGroup* group, OptionButton* options, int count) {
+void Bindings::TieOptions(QButtonGroup* group, OptionButton* options, int count) {
   QObject::connect(group, &QButtonGroup::idClicked, group, [options, count](int id) {
     for (int i = 0; i < count; ++i)
       options[i].Value = i == id;

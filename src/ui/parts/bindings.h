@@ -22,20 +22,14 @@ namespace tarnwick {
 /// and Refresh shows the controls again. The controls must outlive the widgets.
 class Bindings {
  public:
-  void Add(QLabel* widget, const Label& control);
-  void Add(QLineEdit* widget, TextBox& control);
-  void Add(QPlainTextEdit* widget, TextBox& control);
-  void Add(QCheckBox* widget, CheckBox& control);
-  void Add(QComboBox* widget, ListBox& control);
-  void Add(QListWidget* widget, ListBox& control);
-  void Add(QAbstractButton* widget, const Label& control);
+  /// Ties a widget, or the group of buttons that are options, to its control and gives it back.
+  template <typename Widget, typename Control>
+  Widget* Add(Widget* widget, Control& control) {
+    Tie(widget, control);
+    return widget;
+  }
   /// A control of which only its visibility matters.
   void AddVisible(QWidget* widget, const bool& visible);
-  /// An option group; the buttons' ids are the indices.
-  template <int Last>
-  void Add(QButtonGroup* group, Table<OptionButton, 0, Last>& options) {
-    AddOptions(group, &options[0], Last + 1);
-  }
   /// Anything else that is to be shown.
   void Add(std::function<void()> show) { show_.push_back(std::move(show)); }
 
@@ -43,7 +37,19 @@ class Bindings {
   void Refresh() const;
 
  private:
-  void AddOptions(QButtonGroup* group, OptionButton* options, int count);
+  void Tie(QLabel* widget, const Label& control);
+  void Tie(QLineEdit* widget, TextBox& control);
+  void Tie(QPlainTextEdit* widget, TextBox& control);
+  void Tie(QCheckBox* widget, CheckBox& control);
+  void Tie(QComboBox* widget, ListBox& control);
+  void Tie(QListWidget* widget, ListBox& control);
+  void Tie(QAbstractButton* widget, const Label& control);
+  /// The buttons' ids are the indices.
+  template <int Last>
+  void Tie(QButtonGroup* group, Table<OptionButton, 0, Last>& options) {
+    TieOptions(group, &options[0], Last + 1);
+  }
+  void TieOptions(QButtonGroup* group, OptionButton* options, int count);
 
   std::vector<std::function<void()>> show_;
 };

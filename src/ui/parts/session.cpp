@@ -3,23 +3,22 @@
 #include "ui/parts/session.h"
 
 #include <string>
-#include <utility>
 
 #include <QCoreApplication>
 
 namespace tarnwick {
 
 void Session::OnChange(QObject* view, std::function<void()> refresh) {
-  std::erase_if(views_, [](const View& known) { return !known.Owner; });
-  views_.push_back({view, std::move(refresh)});
+  std::erase_if(views_, [](const auto& known) { return !known.first; });
+  views_.emplace_back(view, std::move(refresh));
 }
 
 bool Session::Run(const std::function<void()>& operation) {
   if (error_) return false;
   try {
     operation();
-    for (const View& view : views_) {
-      if (view.Owner) view.Refresh();
+    for (const auto& [view, refresh] : views_) {
+      if (view) refresh();
     }
     return true;
   } catch (const std::exception& error) {

@@ -4,9 +4,14 @@
 
 #include <exception>
 #include <functional>
+#include <utility>
 #include <vector>
 
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QComboBox>
 #include <QObject>
+#include <QPlainTextEdit>
 #include <QPointer>
 
 #include "armyfile/working_army.h"
@@ -39,6 +44,12 @@ class Session {
     QObject::connect(sender, signal, sender, [this, operation] { Run(operation); });
   }
 
+  /// The same whenever the user clicks, chooses or types there.
+  template <typename Sender>
+  void Connect(Sender* sender, const std::function<void()>& operation) {
+    Connect(sender, SignalOf(sender), operation);
+  }
+
   /// Whenever the user leaves `box`, `refused` looks at what was entered and says whether it is
   /// refused; an error refuses it, too.
   void Guard(QWidget* box, const std::function<bool()>& refused);
@@ -47,14 +58,14 @@ class Session {
   void Rethrow() const;
 
  private:
-  struct View {
-    QPointer<QObject> Owner;
-    std::function<void()> Refresh;
-  };
+  static auto SignalOf(const QAbstractButton*) { return &QAbstractButton::clicked; }
+  static auto SignalOf(const QButtonGroup*) { return &QButtonGroup::idClicked; }
+  static auto SignalOf(const QComboBox*) { return &QComboBox::activated; }
+  static auto SignalOf(const QPlainTextEdit*) { return &QPlainTextEdit::textChanged; }
 
   EntryGuard guard_;
   std::exception_ptr error_;
-  std::vector<View> views_;
+  std::vector<std::pair<QPointer<QObject>, std::function<void()>>> views_;  ///< and their refresh
 };
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QButtonGroup>
+#include <QLayout>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -23,27 +24,27 @@ namespace {
 /// File systems take 255 bytes as a name, of which the ending needs some.
 constexpr std::size_t longestFileName = 246;
 
-class QuantityValidator : public QValidator {
- public:
-  using QValidator::QValidator;
-
-  State validate(QString& text, int& /*cursor*/) const override {
-    try {
-      RoundToInt16(Int(LenientNumber(FromQt(text))));
-      return Acceptable;
-    } catch (const OverflowError&) {
-      return Invalid;
-    }
+bool IsQuantity(const QString& text) {
+  try {
+    RoundToInt16(Int(LenientNumber(FromQt(text))));
+    return true;
+  } catch (const OverflowError&) {
+    return false;
   }
-};
+}
 
-/// Keeps a name as short as files can be named.
-class FileNameValidator : public QValidator {
+bool IsFileName(const QString& text) {
+  return Utf8FromAnsi(FromQt(text)).size() <= longestFileName;
+}
+
+/// Takes no keystroke after which the text would not be `Valid`.
+template <bool (*Valid)(const QString&)>
+class Validator : public QValidator {
  public:
   using QValidator::QValidator;
 
   State validate(QString& text, int& /*cursor*/) const override {
-    return Utf8FromAnsi(FromQt(text)).size() <= longestFileName ? Acceptable : Invalid;
+    return Valid(text) ? Acceptable : Invalid;
   }
 };
 
@@ -128,7 +129,7 @@ QLineEdit* NewTextBox(const QString& name, QWidget* parent) {
 }
 
 QLineEdit* NewQuantityBox(const QString& name, QWidget* parent) {
-  static const QuantityValidator validator;  // it has no state
+  static const Validator<IsQuantity> validator;
   auto* box = NewTextBox(name, parent);
   box->setValidator(&validator);
   box->setAlignment(Qt::AlignRight);
@@ -136,7 +137,7 @@ QLineEdit* NewQuantityBox(const QString& name, QWidget* parent) {
 }
 
 QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
-  static const FileNameValidator validator;
+  static const Validator<IsFileName> validator;
   auto* box = NewTextBox(name, parent);
   box->setValidator(&validator);
   return box;
@@ -165,10 +166,12 @@ QPushButton* NewIdleButton(const QString& name, const QString& caption, const QS
   return button;
 }
 
-QButtonGroup* NewOptions(const char* array, int count, QWidget* parent) {
+QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent) {
   auto* group = new QButtonGroup(parent);
   for (int i = 0; i < count; ++i) {
-    group->addButton(Named(new QRadioButton(parent), ElementName(array, i)), i);
+    auto* option = Named(new QRadioButton(parent), ElementName(array, i));
+    group->addButton(option, i);
+    layout->addWidget(option);
   }
   return group;
 }

@@ -11,6 +11,7 @@
 #include <QPushButton>
 
 class QButtonGroup;
+class QLayout;
 class QListWidget;
 
 namespace tarnwick {
@@ -52,7 +53,8 @@ QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent
 QPushButton* NewIdleButton(const QString& name, const QString& caption, const QString& tip,
                            QWidget* parent);
 
-/// Option buttons `array`(0) to `array`(count − 1), exclusive, with their indices as ids.
-QButtonGroup* NewOptions(const char* array, int count, QWidget* parent);
+/// Option buttons `array`(0) to `array`(count − 1) in a layout, exclusive, with their indices as
+/// ids.
+QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent);
 
 }  // namespace tarnwick
