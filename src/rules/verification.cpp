@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/numbers.h"
-#include "rules/limits.h"
+#include "rules/unit_types.h"
 
 namespace tarnwick {
 namespace {
@@ -19,6 +19,27 @@ std::string LimitMessage(const LimitRec& limit, const std::string& minimum) {
 }
 
 }  // namespace
+
+UnitCounts CountUnits(const ArmyState& state) {
+  UnitCounts counts;
+  for (Int16 r = 1; r <= state.TotUnits; ++r) {
+    const UnitRec& unit = state.BaseUnits[r];
+    if (unit.Bought > 0) counts[UnitTypeCode(unit.UnitType, unit.UnitClass)] += unit.Bought;
+  }
+  return counts;
+}
+
+Int16 CountFor(const LimitRec& limit, const UnitCounts& counts) {
+  Int16 count = counts[UnitTypeCode(limit.TypeA, limit.Class)];
+  if (!limit.TypeB.empty()) count += counts[UnitTypeCode(limit.TypeB, "")];
+  return count;
+}
+
+Int16 CountFor(const LimitRec& limit, const UnitRec& unit) {
+  UnitCounts one;
+  one[UnitTypeCode(unit.UnitType, unit.UnitClass)] = 1;
+  return CountFor(limit, one);
+}
 
 bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
   const UnitCounts counts = CountUnits(state);

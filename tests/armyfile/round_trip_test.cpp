@@ -15,7 +15,6 @@
 #include "battlefield/terrain.h"
 #include "rules/base_army_selection.h"
 #include "rules/leaders.h"
-#include "rules/limits.h"
 #include "rules/special_cards.h"
 #include "rules/unit_grid.h"
 #include "rules/unit_purchase.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <map>
 
-#include "rules/limits.h"
+#include "rules/verification.h"
 
 namespace tarnwick {
 namespace {
