@@ -16,6 +16,7 @@
 #include "rules/base_army_loading.h"
 #include "rules/budget.h"
 #include "rules/leaders.h"
+#include "rules/special_cards.h"
 #include "rules/unit_grid.h"
 #include "rules/unit_types.h"
 
@@ -158,16 +159,8 @@ class ArmyLoader {
 
   void LoadCards() {
     CommandPanel& panel = army_.Command;
-    const struct {
-      const char* Key;
-      const char* Card;
-    } cards[] = {{"flank", "FLANK"},
-                 {"rally", "RALLY"},
-                 {"cohesion", "COHESION"},
-                 {"missile", "MISSILE"},
-                 {"caltrop", "CALTROP"}};
-    for (const auto& [key, card] : cards) {
-      const Int16 bought = LenientInt16(Read("ARMY", key));
+    for (const std::string_view card : knownCards) {
+      const Int16 bought = LenientInt16(Read("ARMY", LowerCase(card)));
       Int16 j;
       while (j < army_.TotSpecial && panel.SpecNameLabel[j].Caption != card)
         ++j;

@@ -2,11 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "base/host.h"
 #include "base/int16.h"
 #include "rules/army_state.h"
 
 namespace tarnwick {
+
+/// The cards that army files hold, in the order in which loading pays for them. They know a card
+/// by its name in small letters.
+inline constexpr std::array<std::string_view, 5> knownCards = {"FLANK", "RALLY", "COHESION",
+                                                               "MISSILE", "CALTROP"};
 
 /// The focus leaves `SpecBuy(index)`: buys or gives back cards, paid in command points. Returns
 /// true (cancel: the focus stays) when the entry was refused with a message. A negative quantity

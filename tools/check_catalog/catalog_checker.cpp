@@ -15,6 +15,7 @@
 #include "check_catalog/cheapest_army.h"
 #include "check_catalog/check.h"
 #include "rules/army_state.h"
+#include "rules/special_cards.h"
 #include "rules/unit_types.h"
 
 namespace tarnwick {
@@ -30,9 +31,6 @@ constexpr int mostLeaders = decltype(CommandPanel::LeaderName)::Last + 1;
 constexpr int mostImages = decltype(ImageCatalog::Images)::Last;
 constexpr int cards = 4;
 constexpr int largest = 32767;
-
-/// The cards that loading an army asks for.
-const std::set<std::string> knownCards = {"RALLY", "FLANK", "COHESION", "MISSILE", "CALTROP"};
 
 /// Checks the catalogs of one module.
 class ModuleCheck {
@@ -273,7 +271,7 @@ void ModuleCheck::CheckCards(const std::string& army) const {
     const std::string& row = rows.at(static_cast<std::size_t>(i - 1));
     if (row.empty()) continue;
     const CardRow card = ParseCardRow(row);
-    if (!knownCards.contains(card.Name)) {
+    if (std::find(knownCards.begin(), knownCards.end(), card.Name) == knownCards.end()) {
       armies_.Report(army, key, "The card \"" + card.Name + "\" is never loaded with an army.");
     }
     if (!seen.insert(LowerCase(card.Name)).second) {
