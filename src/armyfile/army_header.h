@@ -31,7 +31,6 @@ struct ArmyHeader {
   TextBox FromData, ToData;
   CheckBox TYPE_IsPersonal, TYPE_IsFantasy;
   CheckBox TribalCheck, Ferocity, Mobility, LongSword, FOW, Discipline;
-
   bool operator==(const ArmyHeader&) const = default;
 };
 

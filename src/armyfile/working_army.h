@@ -14,7 +14,6 @@ struct WorkingArmy {
   ArmyState Army;
   Battlefield Field;
   ArmyHeader Header;
-
   bool operator==(const WorkingArmy&) const = default;
 };
 

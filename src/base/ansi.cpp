@@ -70,16 +70,10 @@ constexpr char LowerCaseOf(unsigned byte) {
   const bool letter =
       (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
   if (letter) return static_cast<char>(byte + 0x20);
-  switch (byte) {
-    case 0x8A:  // S, Z with caron, OE
-    case 0x8C:
-    case 0x8E:
-      return static_cast<char>(byte + 0x10);
-    case 0x9F:  // Y with diaeresis
-      return static_cast<char>(0xFF);
-    default:
-      return static_cast<char>(byte);
+  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) {  // S, Z with caron, OE
+    return static_cast<char>(byte + 0x10);
   }
+  return static_cast<char>(byte == 0x9F ? 0xFF : byte);  // Y with diaeresis
 }
 
 constexpr auto lowerCases = [] {

@@ -21,7 +21,6 @@ struct Label {
   std::string Tag;
   bool Visible = true;
   Colour ForeColor = Colour::Black;
-
   bool operator==(const Label&) const = default;
 };
 
@@ -29,21 +28,18 @@ struct TextBox {
   std::string Text;
   std::string Tag;
   bool Visible = true;
-
   bool operator==(const TextBox&) const = default;
 };
 
 struct Button {
   std::string Caption;
   bool Visible = true;
-
   bool operator==(const Button&) const = default;
 };
 
 struct Frame {
   std::string Caption;
   bool Visible = true;
-
   bool operator==(const Frame&) const = default;
 };
 
@@ -51,7 +47,6 @@ struct OptionButton {
   std::string Caption;
   bool Value = false;
   bool Visible = true;
-
   bool operator==(const OptionButton&) const = default;
 };
 
@@ -59,20 +54,17 @@ struct OptionButton {
 struct PictureBox {
   std::string Tag = "0";
   int Picture = 0;  ///< which picture it shows
-
   bool operator==(const PictureBox&) const = default;
 };
 
 struct CheckBox {
   bool Value = false;
-
   bool operator==(const CheckBox&) const = default;
 };
 
 struct ListEntry {
   std::string Text;
   Int16 ItemData;
-
   bool operator==(const ListEntry&) const = default;
 };
 
@@ -100,7 +92,6 @@ struct ListBox {
     if (found != Entries.end()) ListIndex = static_cast<int>(found - Entries.begin());
   }
   void AddItem(const std::string& text, Int16 itemData = 0) { Entries.push_back({text, itemData}); }
-
   bool operator==(const ListBox&) const = default;
 };
 

@@ -14,7 +14,6 @@ struct TerrainKindRec {
   std::string Name;   ///< the keyword that army files hold
   Int16 ArmyCost;     ///< army points
   Int16 CommandCost;  ///< command points
-
   bool operator==(const TerrainKindRec&) const = default;
 };
 
@@ -23,7 +22,6 @@ struct TerrainPanel {
   Table<PictureBox, 0, 5> TerrImg;  ///< the palette; the tag is the kind's index
   Table<PictureBox, 0, 8> Area;     ///< the tag is the index of the kind that lies there
   Label ArmyPts, CommandPts;
-
   bool operator==(const TerrainPanel&) const = default;
 };
 
@@ -34,7 +32,6 @@ struct SetupPanel {
   TextBox description{.Text = "<insert the setup description here>", .Tag = ""};
   Table<Label, 0, 8> unit;  ///< the nine places
   ListBox unitList;         ///< the units that no place holds
-
   bool operator==(const SetupPanel&) const = default;
 };
 
@@ -46,7 +43,6 @@ struct Battlefield {
 
   TerrainPanel Terrain;
   SetupPanel Setup;
-
   bool operator==(const Battlefield&) const = default;
 };
 

@@ -19,11 +19,6 @@ void Charge(ArmyState& state, const TerrainKindRec& kind) {
   state.CommandPts -= kind.CommandCost;
 }
 
-void Refund(ArmyState& state, const TerrainKindRec& kind) {
-  state.PointsLeft += kind.ArmyCost;
-  state.CommandPts += kind.CommandCost;
-}
-
 }  // namespace
 
 void ClearAreas(Battlefield& field) {
@@ -98,7 +93,9 @@ void DropTerrain(Battlefield& field, ArmyState& state, Host& host, Int16 piece, 
     host.Message("Not enough points");
     return;
   }
-  Refund(state, field.TerrainKinds[LenientInt16(target.Tag)]);
+  const TerrainKindRec& replaced = field.TerrainKinds[LenientInt16(target.Tag)];
+  state.PointsLeft += replaced.ArmyCost;
+  state.CommandPts += replaced.CommandCost;
   Charge(state, field.TerrainKinds[kind]);
   target = source;
   field.AreaTerrain[area] = field.TerrainKinds[kind].Name;

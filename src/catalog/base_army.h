@@ -22,7 +22,6 @@ struct UnitRec {
   std::string ChosenImage;
   Int16 ChosenImageIdx;  ///< row in the image catalog; 0 is none
   std::string SpecialsKey;
-
   bool operator==(const UnitRec&) const = default;
 };
 
@@ -32,7 +31,6 @@ struct LimitRec {
   std::string TypeB;  ///< "" when the rule names one type
   std::string Class;  ///< "" when the rule is on types only
   Int16 Minimum;
-
   bool operator==(const LimitRec&) const = default;
 };
 
@@ -41,7 +39,6 @@ struct LeaderRec {
   std::string Initiative;  ///< a whole number as text
   Int16 Command;
   Int16 Cost;  ///< command points
-
   bool operator==(const LeaderRec&) const = default;
 };
 

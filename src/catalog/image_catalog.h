@@ -19,14 +19,12 @@ struct ImageRec {
   std::string Class;
   std::string Missile;
   std::string Name;  ///< what the choice lists show
-
   bool operator==(const ImageRec&) const = default;
 };
 
 struct ImageCatalog {
   Table<ImageRec, 1, 200> Images;
   Int16 TotImages;
-
   bool operator==(const ImageCatalog&) const = default;
 };
 

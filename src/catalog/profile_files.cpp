@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
+#include <memory>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -42,37 +43,23 @@ std::optional<ProfileText> ReadText(const fs::path& file) {
 
 }  // namespace
 
-struct ProfileFiles::KnownFile {
-  fs::path Path;
-  FileTime ChangedAt;
-  bool Settled = false;  ///< the time stamp tells every later change
-  ProfileText Text;
-};
-
-ProfileFiles::ProfileFiles() = default;
-ProfileFiles::~ProfileFiles() = default;
-
 ProfileFiles::KnownFile* ProfileFiles::Known(const fs::path& file) const {
   std::error_code error;
   const FileTime changedAt = fs::last_write_time(file, error);
   if (error) return nullptr;
-  const auto found = std::find_if(known_.begin(), known_.end(), [&file](const auto& known) {
-    return known->Path.native() == file.native();
+  const auto found = std::find_if(known_.begin(), known_.end(), [&file](const KnownFile& known) {
+    return known.Path.native() == file.native();
   });
   if (found != known_.end()) {
     std::rotate(known_.begin(), found, found + 1);
-    if (known_.front()->Settled && known_.front()->ChangedAt == changedAt) {
-      return known_.front().get();
-    }
+    if (known_.front().Settled && known_.front().ChangedAt == changedAt) return &known_.front();
     known_.erase(known_.begin());
   }
   const bool settled = StampCanTell(changedAt, FileTime::clock::now());
   auto text = ReadText(file);
   if (!text) return nullptr;
   if (known_.size() == mostKnownFiles) known_.pop_back();
-  known_.insert(known_.begin(),
-                std::make_unique<KnownFile>(KnownFile{file, changedAt, settled, std::move(*text)}));
-  return known_.front().get();
+  return &*known_.insert(known_.begin(), {file, changedAt, settled, std::move(*text)});
 }
 
 std::string ProfileFiles::ReadIniString(std::string_view section, std::string_view key,

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,11 +21,6 @@ inline constexpr std::size_t longestValue = 254;
 /// says that it is unchanged.
 class ProfileFiles {
  public:
-  ProfileFiles();
-  ProfileFiles(const ProfileFiles&) = delete;
-  ProfileFiles& operator=(const ProfileFiles&) = delete;
-  ~ProfileFiles();
-
   /// The value of a key, its first 254 bytes at the most; "" when file, section or key is missing.
   std::string ReadIniString(std::string_view section, std::string_view key,
                             const std::filesystem::path& file) const;
@@ -46,11 +40,17 @@ class ProfileFiles {
                         Durability durability = Durability::Scratch);
 
  private:
-  struct KnownFile;
+  struct KnownFile {
+    std::filesystem::path Path;
+    std::filesystem::file_time_type ChangedAt;
+    bool Settled = false;  ///< the time stamp tells every later change
+    ProfileText Text;
+  };
 
+  /// Nothing for a file that can't be read. The next call may move it.
   KnownFile* Known(const std::filesystem::path& file) const;
 
-  mutable std::vector<std::unique_ptr<KnownFile>> known_;  ///< the one used last comes first
+  mutable std::vector<KnownFile> known_;  ///< the one used last comes first
 };
 
 /// True when `path` names a plain file.

@@ -19,7 +19,6 @@ struct Version {
   Int16 Major = TARNWICK_VERSION_MAJOR;
   Int16 Minor = TARNWICK_VERSION_MINOR;
   Int16 Revision = TARNWICK_VERSION_REVISION;
-
   bool operator==(const Version&) const = default;
 };
 
@@ -44,7 +43,6 @@ struct UnitsPanel {
   Table<Label, 0, 6> MinLimit;
 
   Label TotalCost, TQinfo;
-
   bool operator==(const UnitsPanel&) const = default;
 };
 
@@ -55,7 +53,6 @@ struct CommandPanel {
 
   ControlArray<Label> SpecNameLabel, SpecCostLabel, SpecMaxLabel;
   ControlArray<TextBox> SpecBuy;  ///< the tag holds the number of cards paid for
-
   bool operator==(const CommandPanel&) const = default;
 };
 
@@ -63,7 +60,6 @@ struct CommandPanel {
 struct ManagementPanel {
   Table<OptionButton, 0, 1> modOption;  ///< the base game, Brakka
   TextBox ArmyName, ArmyFileName;
-
   bool operator==(const ManagementPanel&) const = default;
 };
 
@@ -72,7 +68,6 @@ struct MonsterPanel {
   MonsterPanel();
 
   ListBox M_Size, M_TQ, M_Type;
-
   bool operator==(const MonsterPanel&) const = default;
 };
 
@@ -82,7 +77,6 @@ enum class Panel { Units, Command, Detail, Terrain, Management, MonsterLaborator
 /// They have the same place and size; one is in front.
 struct FrameStack {
   Panel Front = Panel::Units;
-
   bool operator==(const FrameStack&) const = default;
 };
 
@@ -123,7 +117,6 @@ struct ArmyState {
   CommandPanel Command;
   ManagementPanel Management;
   MonsterPanel Monster;
-
   bool operator==(const ArmyState&) const = default;
 };
 

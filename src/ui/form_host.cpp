@@ -9,7 +9,6 @@
 #include "ui/dialogs/army_list_dialog.h"
 #include "ui/dialogs/army_selection_dialog.h"
 #include "ui/dialogs/leader_dialog.h"
-#include "ui/dialogs/picture_form.h"
 #include "ui/dialogs/special_dialog.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/session.h"
@@ -31,10 +30,6 @@ void ShowModal(Session& session) {
 }
 
 }  // namespace
-
-FormHost::~FormHost() {
-  delete picture_;
-}
 
 void FormHost::Message(const std::string& text) {
   ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
@@ -62,7 +57,7 @@ void FormHost::ShowSpecForm() {
 }
 
 void FormHost::ShowPicture(const std::filesystem::path& file) {
-  if (!picture_) picture_ = new PictureForm;
+  if (!picture_) picture_.emplace();
   picture_->ShowPicture(file);
 }
 

@@ -2,26 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPointer>
+#include <optional>
 
 #include "base/host.h"
-
-class QMessageBox;
-class QWidget;
+#include "ui/dialogs/picture_form.h"
 
 namespace tarnwick {
 
-class PictureForm;
 class Session;
 
 /// The host that speaks through modal boxes and dialogs.
 class FormHost : public Host {
  public:
-  FormHost() = default;
-  FormHost(const FormHost&) = delete;
-  FormHost& operator=(const FormHost&) = delete;
-  ~FormHost() override;
-
   /// The dialogs work on `session`. Must be called before any of them is shown.
   void Serve(Session& session) { session_ = &session; }
 
@@ -36,7 +28,7 @@ class FormHost : public Host {
 
  private:
   Session* session_ = nullptr;
-  QPointer<PictureForm> picture_;
+  std::optional<PictureForm> picture_;  ///< once one was shown
 };
 
 }  // namespace tarnwick
