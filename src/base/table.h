@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <deque>
@@ -41,21 +42,41 @@ class Table {
   std::array<T, static_cast<std::size_t>(High - Low + 1)> rows_{};
 };
 
-/// An array of controls that starts with element 0 alone and grows at its end. An element that
-/// was never loaded is a SubscriptError.
+/// An array of controls that starts with element 0 alone and grows at its end. An element that is
+/// not loaded is a SubscriptError. None ever moves, also when another array is assigned, since the
+/// window shows them where they are.
 template <typename T>
 class ControlArray {
  public:
-  int Count() const { return static_cast<int>(elements_.size()); }
+  ControlArray() = default;
+  ControlArray(const ControlArray&) = default;
+  ~ControlArray() = default;
+  /// Elements that `other` has not loaded become like its element 0.
+  ControlArray& operator=(const ControlArray& other) {
+    while (elements_.size() < other.count_)
+      elements_.emplace_back();
+    for (std::size_t i = 0; i < elements_.size(); ++i)
+      elements_[i] = other.elements_[i < other.count_ ? i : 0];
+    count_ = other.count_;
+    return *this;
+  }
+
+  int Count() const { return static_cast<int>(count_); }
   bool Has(Int16 index) const { return index >= 0 && index < Count(); }
 
   /// Makes the next element, a copy of element 0.
-  void Load() { elements_.push_back(elements_.front()); }
+  void Load() {
+    if (count_ == elements_.size()) elements_.emplace_back();
+    elements_[count_++] = elements_.front();
+  }
 
   T& operator[](Int16 index) { return elements_[Position(index)]; }
   const T& operator[](Int16 index) const { return elements_[Position(index)]; }
 
-  bool operator==(const ControlArray&) const = default;
+  bool operator==(const ControlArray& other) const {
+    return count_ == other.count_ &&
+           std::equal(elements_.begin(), elements_.begin() + Count(), other.elements_.begin());
+  }
 
  private:
   std::size_t Position(Int16 index) const {
@@ -63,7 +84,8 @@ class ControlArray {
     return static_cast<std::size_t>(index.Value());
   }
 
-  std::deque<T> elements_{T{}};  // growing leaves the elements where they are
+  std::deque<T> elements_{T{}};  ///< those loaded, and others that once were
+  std::size_t count_ = 1;
 };
 
 }  // namespace tarnwick

@@ -59,6 +59,7 @@ TEST_F(NewArmy, IsAPlainValue) {
                                            [&] { army_.Units.ImageName[22].AddItem("x"); },
                                            [&] { army_.Command.SpecBuy[3].Tag = "1"; },
                                            [&] { army_.Command.SpecBuy.Load(); },
+                                           [&] { army_.Command = {}; },
                                            [&] { work.Field.Terrain.Area[8].Picture = 1; },
                                            [&] { work.Field.Setup.unit[8].Caption = "x"; },
                                            [&] { header_.ToData.Tag = "x"; },

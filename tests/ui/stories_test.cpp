@@ -222,6 +222,20 @@ TEST_F(WindowTest, AnArmyThatCannotBeSavedStaysWholeOnDisk) {
   EXPECT_EQ(Folder.Read("Trebia.army"), saved);
 }
 
+TEST_F(WindowTest, AnArmyIsPutBackUnderTheWindow) {
+  const WorkingArmy none = Work;
+  BuyValidArmy();
+  const WorkingArmy valid = Work;
+  Work = none;  // without the card rows that the army brought
+  Form.Refresh();
+  ExpectWindowShowsState();
+  EXPECT_TRUE(Form.findChild<QWidget*>("SpecBuy(3)")->isHidden());
+  Work = valid;
+  Form.Refresh();
+  Enter("SpecBuy(3)", "1");
+  EXPECT_EQ(Work.Army.Command.SpecBuy[3].Tag, "1");
+}
+
 TEST_F(WindowTest, AnErrorInACheckStopsWhatWouldFollow) {
   BuyValidArmy();
   Work.Army.Command.SpecCostLabel[0].Caption = "20000";
