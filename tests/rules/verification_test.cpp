@@ -45,6 +45,7 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
       {"1\nlimit1=HC,2\n", {{6, 1}}, atLeast + "2 units of type HC"},
       {"1\nlimit1=LI+LP,4\n", {{1, 2}, {2, 2}}, ""},
       {"1\nlimit1=LI+LP,4\n", {{1, 2}, {2, 1}}, atLeast + "4 units of type LI or LP"},
+      {"1\nlimit1=LI+LI,4\n", {{1, 2}}, ""},           // counted for either name
       {"1\nlimit1=LI+LP,4\n", {{1, 5}, {2, -3}}, ""},  // what is below 0 counts as none
       // Types that a class splits.
       {"1\nlimit1=HI,2\n", {{3, 1}, {4, 5}}, atLeast + "2 units of type HI"},

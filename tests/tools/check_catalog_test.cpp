@@ -56,6 +56,10 @@ std::vector<std::string> Check(const Files& files) {
 
 TEST(CatalogChecker, SaysNothingOfSoundCatalogs) {
   EXPECT_EQ(Check(soundFiles), std::vector<std::string>());
+  Files twice = soundFiles;  // a limit that names its type twice counts each unit twice
+  std::string& list = twice["armylist.dat"];
+  list = ReplaceText("limit2=SK,2,", "limit2=SK+SK,16,", list);
+  EXPECT_EQ(Check(twice), std::vector<std::string>());
 }
 
 /// In `File`, `Find` becomes `Replace`; then this is what the checker says, besides whatever else
