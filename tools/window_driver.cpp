@@ -6,12 +6,11 @@
 #include <cstdlib>
 #include <utility>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>

@@ -59,8 +59,8 @@ void ShowPeriod(ArmyHeader& header);
 void TakeArmyType(ArmyHeader& header, std::string_view code);
 
 /// Ticks the special rules that an army file lists. Only the first three in the order of the file
-/// are unticked when it does not list them; the others stay as the player left them, so that a file
-/// that is silent of them changes nothing.
+/// are unticked when it does not list them; the others stay: the button that loads
+/// has cleared all six before.
 void LoadSpecialRules(ArmyHeader& header, const ProfileFiles& files,
                       const std::filesystem::path& army);
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "armyfile/resetting.h"
 #include "base/ansi.h"
@@ -27,12 +28,7 @@ namespace {
 class ArmyLoader {
  public:
   ArmyLoader(WorkingArmy& work, Disk& disk, Host& host, std::filesystem::path file)
-      : work_(work),
-        army_(work.Army),
-        header_(work.Header),
-        disk_(disk),
-        host_(host),
-        file_(std::move(file)) {}
+      : work_(work), disk_(disk), host_(host), file_(std::move(file)) {}
 
   void Load() {
     ReadHeader();
@@ -100,7 +96,7 @@ class ArmyLoader {
     UnitRec& unit = army_.BaseUnits[*row];
     ++unit.Bought;
     army_.PointsSpent += unit.Cost;
-    // By the class, not the type as in the grid: so the counts have always been made.
+    // By the class, not by the type as in the grid: nothing shows the counts that could mislead.
     ++(MountedKind(army_, disk_, unit.UnitClass, *row) == mounted ? army_.MountedUnits
                                                                   : army_.FootUnits);
     const std::string picture = GetField(line, 6);
@@ -173,8 +169,8 @@ class ArmyLoader {
   }
 
   WorkingArmy& work_;
-  ArmyState& army_;
-  ArmyHeader& header_;
+  ArmyState& army_ = work_.Army;
+  ArmyHeader& header_ = work_.Header;
   Disk& disk_;
   Host& host_;
   std::filesystem::path file_;

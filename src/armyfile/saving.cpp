@@ -94,7 +94,7 @@ class ArmyWriter {
   }
 
   std::string UnitValue(UnitRec unit) const {
-    // The game knows the ability as "AF". A catalog's "A" is not found again by loading.
+    // Army files have always said "AF" for "A". Loading finds no row for it: catalogs write "AF".
     if (unit.Missile == "A") unit.Missile = "AF";
     std::string value = IdentityText(unit) + "," + army_.Catalog.Images[unit.ChosenImageIdx].Id;
     if (!unit.SpecialsKey.empty()) value += "," + unit.SpecialsKey;
@@ -126,8 +126,8 @@ void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
   const std::string& name = army.Management.ArmyFileName.Text;
   const auto path = ArmyPath(disk.ModuleFolder(army.BrakkaMode), name);
   if (!VerifyArmy(army, host, false)) return;
-  if (FileExists(path) &&
-      !host.Question("Do you want to replace the existing " + name + ".army file ?")) {
+  if (FileExists(path) && !host.Question("Do you want to replace the existing " + name +
+                                         std::string(armyEnding) + " file ?")) {
     return;
   }
   PendingFiles files;

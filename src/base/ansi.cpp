@@ -69,10 +69,8 @@ void AppendUtf8(std::string& utf8, char32_t codePoint) {
 constexpr char LowerCaseOf(unsigned byte) {
   const bool letter =
       (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
-  if (letter) return static_cast<char>(byte + 0x20);
-  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) {  // S, Z with caron, OE
-    return static_cast<char>(byte + 0x10);
-  }
+  const bool caronOrOe = byte == 0x8A || byte == 0x8C || byte == 0x8E;
+  if (letter || caronOrOe) return static_cast<char>(byte + (letter ? 0x20 : 0x10));
   return static_cast<char>(byte == 0x9F ? 0xFF : byte);  // Y with diaeresis
 }
 

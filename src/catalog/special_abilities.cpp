@@ -6,12 +6,8 @@
 
 namespace tarnwick {
 
-std::string SpecialAbilities::List(std::string_view group) const {
-  return files_.ReadIniString(group, "special", file_);
-}
-
 bool SpecialAbilities::Has(std::string_view group, std::string_view code) const {
-  const std::string list = List(group);
+  const std::string list = files_.ReadIniString(group, "special", file_);
   for (int i = 1; i <= mostCodes; ++i) {
     const std::string item = GetField(list, i, "+");
     if (item.empty()) return false;
@@ -21,7 +17,7 @@ bool SpecialAbilities::Has(std::string_view group, std::string_view code) const 
 }
 
 std::string SpecialAbilities::Explain(std::string_view group) const {
-  const std::string list = List(group);
+  const std::string list = files_.ReadIniString(group, "special", file_);
   std::string text;
   for (int i = 1; i <= mostCodes; ++i) {
     const std::string code = GetField(list, i, "+");

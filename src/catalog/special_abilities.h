@@ -28,8 +28,6 @@ class SpecialAbilities {
   std::string Explain(std::string_view group) const;
 
  private:
-  std::string List(std::string_view group) const;
-
   const ProfileFiles& files_;
   std::filesystem::path file_;
 };

@@ -69,7 +69,10 @@ QWidget* MainForm::NewButtonColumn() {
   layout->addSpacing(16);
   AddQuickSave(layout);
   layout->addStretch();
-  AddHeaderButtons(layout);
+  const QString tip = "Edited on the panel Detail";
+  layout->addWidget(NewIdleButton("HistoricalPeriod", "Define Historical Period", tip, this));
+  layout->addWidget(NewIdleButton("SpecRulesBtn", "Special Rules", tip, this));
+  layout->addWidget(NewIdleButton("DescriptionBtn", "Army description", tip, this));
   return column;
 }
 
@@ -95,13 +98,6 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
   setContextMenuPolicy(Qt::ActionsContextMenu);
   button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +
                      ")");
-}
-
-void MainForm::AddHeaderButtons(QVBoxLayout* column) {
-  const QString tip = "Edited on the panel Detail";
-  column->addWidget(NewIdleButton("HistoricalPeriod", "Define Historical Period", tip, this));
-  column->addWidget(NewIdleButton("SpecRulesBtn", "Special Rules", tip, this));
-  column->addWidget(NewIdleButton("DescriptionBtn", "Army description", tip, this));
 }
 
 QWidget* MainForm::NewPanelStack() {

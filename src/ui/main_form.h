@@ -35,7 +35,6 @@ class MainForm : public QWidget {
   void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel,
                       std::function<void()> show = nullptr);
   void AddQuickSave(QVBoxLayout* column);
-  void AddHeaderButtons(QVBoxLayout* column);
   QWidget* NewPanelStack();
 
   Session& session_;

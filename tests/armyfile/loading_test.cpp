@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include "armyfile/resetting.h"
 #include "armyfile/saving.h"
 #include "base/errors.h"
 #include "base/numbers.h"

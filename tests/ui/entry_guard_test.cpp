@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
+
 #include "ui_fixture.h"
 
 namespace tarnwick {

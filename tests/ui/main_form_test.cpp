@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QPlainTextEdit>
 
 #include "ui_fixture.h"
 

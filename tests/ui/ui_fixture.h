@@ -10,11 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QRadioButton>
 #include <QTest>
 
 #include "support/temp_folder.h"

@@ -124,9 +124,8 @@ void TerrainPanelWidget::AddPicture(TerrainTile* tile, const PictureBox& control
 
 void TerrainPanelWidget::Pick(std::optional<int> piece) {
   picked_ = piece;
-  for (int kind = 0; kind < static_cast<int>(pieces_.size()); ++kind) {
-    pieces_.at(static_cast<std::size_t>(kind))->Mark(kind == piece);
-  }
+  for (int kind = 0; TerrainTile* const tile : pieces_)
+    tile->Mark(kind++ == piece);
 }
 
 void TerrainPanelWidget::PutDown(int piece, int area) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/parts/entry_guard.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -110,9 +112,7 @@ bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
 void EntryGuard::CheckLostFocus(QWidget* box, QEvent* event) {
   const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
   if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
-  const bool checked = passed_ == box;
-  passed_ = nullptr;
-  if (!checked && box->isVisible()) Refuses(box);
+  if (std::exchange(passed_, nullptr) != box && box->isVisible()) Refuses(box);
 }
 
 }  // namespace tarnwick
