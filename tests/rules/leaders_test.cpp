@@ -2,98 +2,85 @@
 // SPDX-License-Identifier: MIT
 #include "rules/leaders.h"
 
-#include <string>
-#include <tuple>
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
 #include "support/sample_state.h"
 
 namespace tarnwick {
 namespace {
 
-class LeaderChoice : public testing::Test {
- protected:
-  /// The chosen leader, the ticked option (−1 is none) and the command points left.
-  std::string Choice() const {
-    int ticked = -1;
-    for (int i = 0; i <= 6; ++i)
-      if (state_.Command.LeaderName[i].Value) ticked = i;
-    return NumberText(state_.SelectedLeader) + " " + std::to_string(ticked) + " " +
-           NumberText(state_.CommandPts);
-  }
+struct LeaderChoice : testing::Test, SampleState {
+  LeaderChoice()
+      : SampleState(
+            "command_pts=160\ntot_leader=3\nleader1=Arcas,7,2,150\nleader2=Milo,4,1,40\n"
+            "leader3=Dear,7,1,161\n") {}
 
-  SampleState sample_{
-      "command_pts=160\ntot_leader=3\nleader1=Arcas,7,2,150\nleader2=Milo,4,1,40\n"
-      "leader3=Dear,7,1,161\n"};
-  ArmyState& state_ = sample_.State;
+  /// The chosen leader, the ticked options and the command points left.
+  std::string Choice() const {
+    std::string ticked;
+    for (int i = 0; i <= 6; ++i)
+      if (Command.LeaderName[i].Value) ticked += std::to_string(i);
+    return Joined(State.SelectedLeader, ticked, State.CommandPts);
+  }
 };
 
 TEST_F(LeaderChoice, IsPaidAndChangedForTheDifference) {
   const struct {
     int PointsLeft, Clicked;
     const char* Choice;
-  } clicks[] = {
-      {160, 2, "-1 -1 160"}, {160, 0, "0 0 10"}, {10, 1, "1 1 120"}, {120, 1, "1 1 120"},
-      {109, 0, "1 1 109"},   {110, 0, "0 0 0"},  {-50, 1, "1 1 60"}};  // a loaded army may have
-                                                                       // overspent; a refund is
-                                                                       // still taken
+  } clicks[] = {{160, 2, "-1||160"}, {160, 0, "0|0|10"}, {10, 1, "1|1|120"}, {120, 1, "1|1|120"},
+                {109, 0, "1|1|109"}, {110, 0, "0|0|0"},  // An army from a file may have overspent;
+                {-50, 1, "1|1|60"}};                     // a refund is still taken.
   for (const auto& click : clicks) {
-    state_.CommandPts = click.PointsLeft;
-    TickOption(state_.Command.LeaderName, click.Clicked);  // as the window has done by then
-    LeaderName_Click(state_, sample_.Host, click.Clicked);
+    State.CommandPts = click.PointsLeft;
+    TickOption(Command.LeaderName, click.Clicked);  // as the window has done by then
+    LeaderName_Click(State, Host, click.Clicked);
     EXPECT_EQ(Choice(), click.Choice);
   }
-  const std::string refusal = "Insufficient points left";
-  EXPECT_EQ(sample_.Host.Heard(), (Lines{refusal, refusal}));
-  EXPECT_EQ(state_.Command.LeaderFrame.Caption, " Leaders (pts left: 60)");
+  EXPECT_EQ(Host.Heard(), Lines(2, "Insufficient points left"));
+  EXPECT_EQ(Command.LeaderFrame.Caption, " Leaders (pts left: 60)");
 }
 
 TEST_F(LeaderChoice, TheDialogDefinesLeadersThatNobodyHasChosenYet) {
   LeaderMgmtForm form;
+  EXPECT_EQ(form.leaderCost.Caption, "0");
   const auto cost = [&form](int initiative, int command) {  // entries of the lists, -1 for none
     form.InitiativeBox.ListIndex = initiative;
     form.CommandBox.ListIndex = command;
     UpdateLeaderCost(form);
     return form.leaderCost.Caption;
   };
-  std::string costs;
+  Lines costs;
   for (int i = 0; i < 8; ++i)
-    costs += cost(i % 4, i / 4) + " ";
-  EXPECT_EQ(costs, "40 70 100 120 0 0 0 150 ");
-  EXPECT_EQ(cost(-1, 0) + cost(0, -1), "150150");  // until both lists have a selection
-  EXPECT_EQ(LeaderCost(7, 0) + LeaderCost(8, 1) + LeaderCost(3, 1), 150);
+    costs.push_back(cost(i % 4, i / 4));
+  EXPECT_EQ(costs, (Lines{"40", "70", "100", "120", "0", "0", "0", "150"}));
+  EXPECT_EQ(cost(-1, 0), "150");  // until both lists have a selection
+  EXPECT_EQ(cost(0, -1), "150");
+  EXPECT_EQ(Joined(LeaderCost(7, 0), LeaderCost(8, 1), LeaderCost(3, 1)), "150|0|0");
   for (const int initiative : {-1, 0, 2}) {
     cost(initiative, 1);
-    EXPECT_TRUE(CommandBox_Validate(form, sample_.Host)) << initiative;
-    EXPECT_EQ(sample_.Host.Heard(),
-              Lines{"Only leaders with initiative = 7 can have 2 command points"});
+    EXPECT_TRUE(CommandBox_Validate(form, Host)) << initiative;
+    EXPECT_EQ(Host.Heard(), Lines{"Only leaders with initiative = 7 can have 2 command points"});
   }
   form.InitiativeBox.ListIndex = 3;
-  EXPECT_FALSE(CommandBox_Validate(form, sample_.Host));
+  EXPECT_FALSE(CommandBox_Validate(form, Host));
   EXPECT_EQ(form.leaderCost.Caption, "150");
-  EXPECT_FALSE(DefineLeader(state_, sample_.Host, form));
-  EXPECT_EQ(sample_.Host.Heard(), Lines{"Please insert the leader's name"});
+  EXPECT_FALSE(DefineLeader(State, Host, form));
+  EXPECT_EQ(Host.Heard(), Lines{"Please insert the leader's name"});
 
   form.LeaderName.Text = " Cato the Elder";
   cost(2, 1);
-  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
-  EXPECT_EQ(state_.Command.LeaderName[3].Caption, " Cato the Elder 0 [ 6 / 2 ] ");
-  EXPECT_TRUE(state_.Command.LeaderName[3].Visible);
-  EXPECT_EQ(Choice(), "-1 -1 160");
+  EXPECT_TRUE(DefineLeader(State, Host, form));
+  EXPECT_EQ(Choice(), "-1||160");
   cost(0, 0);
   cost(0, -1);  // without a selection the cost is what the dialog shows
-  EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
-  EXPECT_EQ(state_.Command.LeaderName[4].Caption, " Cato the Elder 40 [ 4 / 0 ] ");
-
-  // The eighth leader has no button, the twelfth no row.
+  EXPECT_TRUE(DefineLeader(State, Host, form));
+  EXPECT_EQ(Shown(Command.LeaderName, 7),
+            "Arcas 150 [ 7 / 2 ] |Milo 40 [ 4 / 1 ] |Dear 161 [ 7 / 1 ] |"
+            " Cato the Elder 0 [ 6 / 2 ] | Cato the Elder 40 [ 4 / 0 ] |-|-|");
   for (int i = 5; i < 7; ++i)
-    EXPECT_TRUE(DefineLeader(state_, sample_.Host, form));
-  for (int i = 7; i < 12; ++i)
-    EXPECT_THROW(std::ignore = DefineLeader(state_, sample_.Host, form), SubscriptError);
-  EXPECT_EQ(state_.Leaders[10].Initiative, "4");
-  EXPECT_EQ(state_.LeaderCount, 12);
+    EXPECT_TRUE(DefineLeader(State, Host, form));
+  for (int i = 7; i < 12; ++i)  // The eighth leader has no button, the twelfth no row.
+    EXPECT_THROW(EXPECT_TRUE(DefineLeader(State, Host, form)), SubscriptError);
+  EXPECT_EQ(Joined(State.Leaders[10].Initiative, State.LeaderCount), "4|12");
 }
 
 }  // namespace

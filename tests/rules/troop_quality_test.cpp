@@ -2,13 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rules/troop_quality.h"
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "rules/army_state.h"
+#include "support/sample_state.h"
 
 namespace tarnwick {
 namespace {
@@ -22,13 +16,10 @@ std::string LineFor(const std::vector<Row>& rows) {
   ArmyState state;
   for (const auto& [type, tq, size, bought] : rows) {
     UnitRec& unit = state.BaseUnits[++state.TotUnits];
-    unit.UnitType = type;
-    unit.TQ = tq;
-    unit.Size = size;
+    unit = ParseIdentity(std::string(type) + ",," + tq + "," + size);
     unit.Bought = bought;
   }
-  // What lies behind the army's rows is not counted.
-  state.BaseUnits[state.TotUnits + 1].Bought = 1;
+  state.BaseUnits[state.TotUnits + 1].Bought = 1;  // behind the army's rows, not counted
   return PrintTQInfo(state);
 }
 
@@ -47,10 +38,10 @@ TEST(PrintTQInfo, SumsUpWhatIsBought) {
       {{{"HI", "2.5", "1", 3}}, "TQ: 6 (1) - TQ ratio: 2"},
       {{{"sk", " 3.5 ", "1", 1}}, "TQ: 4 (1) - TQ ratio: 4"},
       {{{"HI", "-7", "2", 1}}, "TQ: -7 (-3) - TQ ratio: -3.5"},  // cut down, not cut off
-      {{{"HI", "1", "8", 1}}, "TQ: 1 (0) - TQ ratio: 0.12"},     // 0.125 goes to the even cent
-      // The size is rounded at every row.
+      {{{"HI", "9", "72", 1}}, "TQ: 9 (2) - TQ ratio: 0.12"},    // 2.7, and 0.125 to the even cent
+      // The running sum of sizes is rounded at every row.
       {{{"HI", "3", "0.5", 1}, {"MI", "3", "0.5", 1}}, ""},
-      {{{"HI", "3", "1.5", 1}, {"MI", "3", "0.5", 1}}, "TQ: 6 (1) - TQ ratio: 3"},
+      {{{"HI", "3", "1", 1}, {"MI", "3", "0.5", 1}}, "TQ: 6 (1) - TQ ratio: 3"},
       {{{"HI", "1092", "1", 1}}, "TQ: 1092 (327) - TQ ratio: 1092"}};
   for (const auto& c : cases)
     EXPECT_EQ(LineFor(c.Rows), c.Line);

@@ -2,12 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "rules/unit_grid.h"
 
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "rules/unit_types.h"
 #include "support/sample_state.h"
 
@@ -23,42 +17,36 @@ constexpr const char* images =
     "image3=v2.svg,HI,Vet,,Older\nimage4=s.svg,SK,,S,Sling\nimage5=hj.svg,HI,,J,Javelin\n"
     "image6=v3.svg,HI,Vet,,Oldest\n";
 
-class Grid : public testing::Test {
- protected:
-  Grid() {
-    sample_.Folder.Write("specials.dat",
-                         "[Wyvern]\nspecial=MOUNTED\n[Ogre]\nspecial=BIG\n"
-                         "[SPECIALS]\nBIG=Big\n");
+struct Grid : testing::Test, SampleState {
+  Grid() : SampleState(army, images) {
+    Folder.Write("specials.dat",
+                 "[Wyvern]\nspecial=MOUNTED\n[Ogre]\nspecial=BIG\n[SPECIALS]\nBIG=Big\n");
     Rows(0);
   }
 
   /// The rows that a view shows, in their order, with their colours.
-  std::string Rows(int view) {
-    TickOption(grid_.ViewOption, view);
-    ViewOption_Click(state_, sample_.Store);
-    std::string rows;
-    for (int k = 0; k <= 22 && grid_.Buy[k].Visible; ++k)
-      rows += grid_.Buy[k].Tag + "." +
-              (grid_.TypeLabel[k].ForeColor == Colour::LightBlue ? "9" : "0") + " ";
+  Lines Rows(int view) {
+    TickOption(Units.ViewOption, view);
+    ViewOption_Click(State, Store);
+    Lines rows;
+    for (int k = 0; k <= 22 && Units.Buy[k].Visible; ++k)
+      rows.push_back(Joined(Units.Buy[k].Tag, static_cast<int>(Units.TypeLabel[k].ForeColor)));
     return rows;
   }
-
-  SampleState sample_{army, images};
-  ArmyState& state_ = sample_.State;
-  UnitsPanel& grid_ = state_.Units;
 };
 
 TEST_F(Grid, TheViewsShareTheRows) {
-  EXPECT_EQ(Rows(0), "1.0 2.0 4.0 6.0 ");
-  EXPECT_EQ(Rows(1), "3.9 5.9 ");
-  EXPECT_EQ(Rows(2), "");
-  state_.BaseUnits[5].Bought = 1;
-  state_.BaseUnits[2].Bought = 2;
-  state_.BaseUnits[1].Bought = -1;
-  EXPECT_EQ(Rows(2), "2.0 5.9 ");
-  EXPECT_TRUE(grid_.ImageName[1].Visible && grid_.ViewBtn[1].Visible && grid_.TQLabel[1].Visible);
-  EXPECT_FALSE(grid_.ImageName[2].Visible || grid_.ViewBtn[2].Visible || grid_.TQLabel[2].Visible);
-
+  EXPECT_EQ(Rows(0), (Lines{"1|0", "2|0", "4|0", "6|0"}));
+  EXPECT_EQ(Rows(1), (Lines{"3|9", "5|9"}));
+  EXPECT_EQ(Rows(2), Lines{});
+  State.BaseUnits[5].Bought = 1;
+  State.BaseUnits[2].Bought = 2;
+  State.BaseUnits[1].Bought = -1;
+  EXPECT_EQ(Rows(2), (Lines{"2|0", "5|9"}));
+  const auto visible = [this](int k) {
+    return Joined(Units.specLabel[k].Visible, Units.ImageName[k].Visible, Units.ViewBtn[k].Visible);
+  };
+  EXPECT_EQ((Lines{visible(1), visible(2), visible(22)}), (Lines{"1|1|1", "0|0|0", "0|0|0"}));
   std::string many = "tot_units=24\n";
   for (int i = 1; i <= 24; ++i)
     many += RowKey("unit", i) + "=HI,,3,1,,5,9,\n";
@@ -66,80 +54,77 @@ TEST_F(Grid, TheViewsShareTheRows) {
 }
 
 TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
-  state_.BaseUnits[1].Bought = 3;
-  state_.BaseUnits[2].Bought = -2;
-  ShowSelectUnits(state_, sample_.Store);
+  State.BaseUnits[1].Bought = 3;
+  State.BaseUnits[2].Bought = -2;
+  ShowSelectUnits(State, Store);
   const auto line = [this](int k) {
-    std::string text = grid_.Buy[k].Text;
-    for (const auto* column : {&grid_.TypeLabel, &grid_.ClassLabel, &grid_.TQLabel,
-                               &grid_.SizeLabel, &grid_.MissileLabel, &grid_.CostLabel,
-                               &grid_.MaxLabel, &grid_.UnitTotalLabel, &grid_.specLabel}) {
-      text += "|" + (*column)[k].Caption;
-    }
-    return text;
+    return Joined(Units.Buy[k].Text, Units.TypeLabel[k].Caption, Units.ClassLabel[k].Caption,
+                  Units.TQLabel[k].Caption, Units.SizeLabel[k].Caption,
+                  Units.MissileLabel[k].Caption, Units.CostLabel[k].Caption,
+                  Units.MaxLabel[k].Caption, Units.UnitTotalLabel[k].Caption,
+                  Units.specLabel[k].Caption);
   };
   EXPECT_EQ(line(0), "3|HI|Vet|2.5|4||7|4|21|(+)");
   EXPECT_EQ(line(1), "|SK||3|1|S|5|6|-10|");
-  EXPECT_EQ(Points(state_), "100/0");
-  EXPECT_EQ(state_.Title, "Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
-  EXPECT_FALSE(state_.GridFilling);
+  EXPECT_EQ(Points(State), "100/0");
+  EXPECT_EQ(State.Title, "Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
+  EXPECT_FALSE(State.GridFilling || State.SetupLoading);
 }
 
 TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
+  // The picture shown, and the one that the row remembers.
   const auto chosen = [this] {
-    const UnitRec& unit = state_.BaseUnits[1];
-    return grid_.ImageName[0].Text() + "|" + unit.ChosenImage + NumberText(unit.ChosenImageIdx);
+    const UnitRec& unit = State.BaseUnits[1];
+    return Joined(Units.ImageName[0].Text(), unit.ChosenImage, unit.ChosenImageIdx);
   };
-  EXPECT_EQ(grid_.ImageName[0].Entries,
+  EXPECT_EQ(Units.ImageName[0].Entries,
             (std::vector<ListEntry>{{"Old", 1}, {"Older", 3}, {"Oldest", 6}}));
-  EXPECT_EQ(grid_.ImageName[2].Entries.size(), 0U);
-  EXPECT_EQ(grid_.ImageName[3].Entries, (std::vector<ListEntry>{{"Javelin", 5}}));
-  EXPECT_EQ(chosen(), "Old|Old1");
-  EXPECT_EQ(state_.BaseUnits[4].ChosenImageIdx, 0);
-  grid_.ImageName[0].ListIndex = 2;
-  ImageName_Click(state_, 0);
+  EXPECT_EQ(Units.ImageName[2].Entries.size(), 0U);
+  EXPECT_EQ(Units.ImageName[3].Entries, (std::vector<ListEntry>{{"Javelin", 5}}));
+  EXPECT_EQ(chosen(), "Old|Old|1");
+  EXPECT_EQ(State.BaseUnits[4].ChosenImageIdx, 0);
+  Units.ImageName[0].ListIndex = 2;
+  ImageName_Click(State, 0);
   Rows(1);
   Rows(0);
-  EXPECT_EQ(chosen(), "Oldest|Oldest6");
+  EXPECT_EQ(chosen(), "Oldest|Oldest|6");
   // A choice that does not fit is kept although the list shows another one.
-  state_.BaseUnits[1].ChosenImageIdx = 2;
-  ShowSelectUnits(state_, sample_.Store);
-  EXPECT_EQ(chosen(), "Old|Oldest2");
-  grid_.Buy[0].Tag = "";  // a reset has taken the row off the line
-  grid_.ImageName[0].ListIndex = 1;
-  ImageName_Click(state_, 0);
-  EXPECT_EQ(chosen(), "Older|Oldest2");
+  State.BaseUnits[1].ChosenImageIdx = 2;
+  ShowSelectUnits(State, Store);
+  EXPECT_EQ(chosen(), "Old|Oldest|2");
+  Units.ImageName[0].ListIndex = -1;  // no picture, no choice
+  ImageName_Click(State, 0);
+  Units.Buy[0].Tag = "";  // a reset has taken the row off the line
+  Units.ImageName[0].ListIndex = 1;
+  ImageName_Click(State, 0);
+  EXPECT_EQ(chosen(), "Older|Oldest|2");
 }
 
 TEST_F(Grid, ButtonsShowPictureAndAbilities) {
   const auto view = [this](int line) {
-    ViewBtn_Click(state_, sample_.Store, sample_.Host, line);
-    Lines seen = sample_.Host.Heard();
-    for (const auto& picture : std::exchange(sample_.Host.Pictures, {}))
-      seen.push_back(picture.string());
-    return seen;
+    ViewBtn_Click(State, Store, Host, line);
+    return Host.Heard();
   };
-  const std::string folder = sample_.Folder.Path().string() + "/";
+  Folder.Write("v1.svg", "");
+  EXPECT_EQ(view(0), Lines{});
+  EXPECT_EQ(Host.Pictures, std::vector{Folder / "v1.svg"});
   EXPECT_EQ(view(2), Lines{});  // no picture fits
-  sample_.Folder.Write("brakka/v1.svg", "");
-  EXPECT_EQ(view(0), Lines{"File " + folder + "v1.svg not found"});
-  state_.BrakkaMode = true;
-  EXPECT_EQ(view(0), Lines{folder + "brakka/v1.svg"});
-  EXPECT_EQ(view(1), Lines{"File " + folder + "brakka/s.svg not found"});
-  sample_.Folder.Write("v1.svg", "");
-  EXPECT_EQ(view(0), Lines{folder + "v1.svg"});
+  EXPECT_EQ(view(1), Lines{"File " + (Folder / "s.svg").string() + " not found"});
+  State.BrakkaMode = true;
+  EXPECT_EQ(view(1), Lines{"File " + (Folder / "brakka/s.svg").string() + " not found"});
 
   int shown = 0;
-  sample_.Host.OnSpecForm = [&] { shown = state_.SpecUnitRow.Value(); };
-  specLabel_Click(state_, sample_.Store, sample_.Host, 1);
-  EXPECT_EQ(shown, 0);
-  specLabel_Click(state_, sample_.Store, sample_.Host, 2);
-  EXPECT_EQ(shown, 4);
-  EXPECT_EQ(SpecialAbilitiesText(state_, sample_.Store),
+  Host.OnSpecForm = [&] { shown = State.SpecUnitRow.Value(); };
+  const auto abilities = [&](int line) {
+    specLabel_Click(State, Store, Host, line);
+    return shown;
+  };
+  EXPECT_EQ(abilities(1), 0);  // it has none
+  EXPECT_EQ(abilities(2), 4);
+  EXPECT_EQ(SpecialAbilitiesText(State, Store),
             "Special abilities for the unit: LM\r\n\r\n\r\n*BIG=Big");
-  grid_.Buy[0].Tag = "";
-  specLabel_Click(state_, sample_.Store, sample_.Host, 0);
-  EXPECT_EQ(shown, 1);
+  Units.Buy[0].Tag = "";
+  EXPECT_EQ(abilities(0), 1);
 }
 
 }  // namespace

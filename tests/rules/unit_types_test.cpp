@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rules/unit_types.h"
 
-#include <gtest/gtest.h>
-
-#include "rules/army_state.h"
-#include "support/temp_folder.h"
+#include "support/sample_state.h"
 
 namespace tarnwick {
 namespace {
@@ -14,30 +11,36 @@ TEST(UnitTypeCode, SomeTypesAreSplitByClass) {
   const struct {
     const char *Type, *Class;
     int Code;
-  } cases[] = {{"HI", "", 3},    {"HI", "x", 54},   {"MI", "x", 4},    {"LI", "", 7},
-               {"LI", "x", 55},  {"LG", "HA", 50},  {"LG", "PR", 51},  {"LG", "CO", 52},
-               {"LG", "ha", 53}, {"CO", "Vet", 60}, {"CO", "Con", 61}, {"CO", "Rec", 62},
-               {"CO", "VET", 0}, {"YU", "", 102},   {"KB", "x", 104},  {"SM", "", 0},
-               {"HI ", "", 0},   {"hi", "", 0}};
+  } cases[] = {{"PH", "x", 1},   {"HI", "", 3},     {"MI", "", 4},     {"BI", "", 5},
+               {"LP", "x", 6},   {"LI", "", 7},     {"SK", "", 8},     {"HC", "", 9},
+               {"RC", "", 10},   {"BC", "", 11},    {"LN", "", 12},    {"LC", "", 13},
+               {"EL", "", 14},   {"CH", "", 15},    {"GC", "x", 18},   {"LG", "HA", 50},
+               {"LG", "PR", 51}, {"LG", "CO", 52},  {"LG", "ha", 53},  {"HI", "x", 54},
+               {"LI", "x", 55},  {"CO", "Vet", 60}, {"CO", "Con", 61}, {"CO", "Rec", 62},
+               {"CO", "VET", 0}, {"AS", "", 101},   {"YU", "", 102},   {"TP", "", 103},
+               {"KB", "", 104},  {"SM", "", 0},     {"HI ", "", 0},    {"hi", "", 0}};
   for (const auto& c : cases)
     EXPECT_EQ(UnitTypeCode(c.Type, c.Class), c.Code) << c.Type << " " << c.Class;
+  for (const char* type : {"CO", "PH", "SM", "LM"})
+    EXPECT_TRUE(IsUnitType(type)) << type;
+  EXPECT_FALSE(IsUnitType("hi"));
 }
 
 TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
-  const TempFolder folder;
-  folder.Write("specials.dat", "[Wyvern]\nspecial=FLY+MOUNTED\n[Ogre]\nspecial=BIG\n");
-  const Disk disk(folder.Path());
-  ArmyState state;
-  state.BaseUnits[1].SpecialsKey = "Wyvern";
-  state.BaseUnits[2].SpecialsKey = "Ogre";
+  SampleState sample("tot_units=2\nunit1=LM,,3,1,,5,9,Wyvern\nunit2=LM,,3,1,,5,9,Ogre\n");
+  sample.Folder.Write("specials.dat", "[Wyvern]\nspecial=FLY+MOUNTED\n[Ogre]\nspecial=BIG\n");
+  const auto kind = [&](const char* type, int row) {
+    return MountedKind(sample.State, sample.Store, type, row);
+  };
   for (const char* type : {"HC", "RC", "BC", "LN", "EL", "LC", "CH", "GC", "KB"})
-    EXPECT_EQ(MountedKind(state, disk, type, 2), mounted) << type;
-  for (const char* type : {"SM", "LM"})
-    EXPECT_EQ(MountedKind(state, disk, type, 1), mounted) << type;
-  for (const char* type : {"SM", "LM", "HI", "hc", ""})
-    EXPECT_EQ(MountedKind(state, disk, type, type[0] == 'H' ? 1 : 2), foot) << type;
-  EXPECT_EQ(MountedKind(state, disk, "SM", -1), foot);
-  EXPECT_EQ(MountedKind(state, disk, "SK", 1), skirmishers);
+    EXPECT_EQ(kind(type, 2), mounted) << type;
+  for (const char* type : {"SM", "LM"}) {
+    EXPECT_EQ(kind(type, 1), mounted) << type;
+    EXPECT_EQ(kind(type, 2), foot) << type;
+    EXPECT_EQ(kind(type, -1), foot) << type;
+  }
+  EXPECT_EQ(kind("HI", 1), foot);
+  EXPECT_EQ(kind("SK", 1), skirmishers);
 }
 
 }  // namespace

@@ -3,14 +3,7 @@
 #include "rules/verification.h"
 
 #include <map>
-#include <string>
-#include <tuple>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "rules/base_army_selection.h"
 #include "support/sample_state.h"
 
 namespace tarnwick {
@@ -18,7 +11,7 @@ namespace {
 
 /// What the limits say of the units bought, by row: 1 LI, 2 LP, 3 HI, 4 HI of class x, 5 CO of
 /// class Vet, 6 HC, 7 LM, 8 CO without a class.
-std::string Verify(const std::string& limits, const std::map<int, int>& bought, int leader = 0) {
+std::string Verify(const std::string& limits, const std::map<int, int>& bought, int leader) {
   SampleState sample(
       "tot_units=8\nunit1=LI,,3,1,,5,9,\nunit2=LP,,3,1,,5,9,\nunit3=HI,,3,1,,5,9,\n"
       "unit4=HI,x,3,1,,5,9,\nunit5=CO,Vet,3,1,,5,9,\nunit6=HC,,3,1,,5,9,\n"
@@ -60,7 +53,7 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
       {"3\nlimit1=HI,1\nlimit2=HC,1\nlimit3=LI,1\n", {{3, 1}}, atLeast + "1 units of type HC"},
       {"1\nlimit1=HC,0\n", {}, ""}};
   for (const auto& c : cases) {
-    EXPECT_EQ(Verify(c.Limits, c.Bought), c.Message) << c.Limits;
+    EXPECT_EQ(Verify(c.Limits, c.Bought, 0), c.Message) << c.Limits;
     const std::string leaderless = c.Message.empty() ? "Please select a Leader" : c.Message;
     EXPECT_EQ(Verify(c.Limits, c.Bought, -1), leaderless) << c.Limits;
   }
@@ -68,39 +61,25 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
 
 TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
   SampleState sample(
-      "tot_limits=2\nlimit1=HI,1\nlimit2=HC,1\n"
-      "tot_units=2\nunit1=MI,,3,1,,5,9,\nunit2=MI,,3,1,,5,9,\n");
+      "tot_limits=2\nlimit1=HI,1\nlimit2=HC,1\ntot_units=2\nunit1=SM,,3,1,,5,9,\n"
+      "unit2=HC,,3,1,,5,9,\n");
   ArmyState& state = sample.State;
   state.Units.TypeLimit[0].Tag = "2";
   state.Units.MinLimit[0].Caption = "1.5 men";
-  VerifyBtn_Click(state, sample.Host);
-  EXPECT_EQ(sample.Host.Heard(), Lines{"You must buy at least 1.5 men units of type HC"});
+  const auto said = [&](int horse) {
+    state.BaseUnits[2].Bought = horse;
+    VerifyBtn_Click(state, sample.Host);
+    return sample.Host.Heard();
+  };
+  EXPECT_EQ(said(1), Lines{"You must buy at least 1.5 men units of type HC"});
+  EXPECT_EQ(said(2), Lines{"Please select a Leader"});
   for (const char* tag : {"", "11"}) {
     state.Units.TypeLimit[0].Tag = tag;
-    EXPECT_THROW(VerifyBtn_Click(state, sample.Host), SubscriptError);
+    EXPECT_THROW(said(2), SubscriptError);
   }
-  state.BaseUnits[1].Bought = state.BaseUnits[2].Bought = 20000;
-  EXPECT_THROW(std::ignore = VerifyArmy(state, sample.Host, false), OverflowError);
-}
-
-TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
-  SampleState sample("[Armies]\ntotal=3\nname1=Gaul\nname3=Epirus\nname4=Too many\n");
-  ArmyState& state = sample.State;
-  ArmySelectionForm form;
-  form.ArmyList.AddItem("left over");
-  FillArmySelection(state, sample.Store, form);
-  EXPECT_EQ(form.ArmyList.Entries, (std::vector<ListEntry>{{"Gaul", 0}, {"", 0}, {"Epirus", 0}}));
-  for (const int line : {-1, 1}) {
-    form.ArmyList.ListIndex = line;
-    EXPECT_FALSE(ConfirmArmySelection(state, sample.Host, form));
-    EXPECT_EQ(sample.Host.Heard(), Lines{"Please select one army"});
-    EXPECT_EQ(state.BaseArmyName, "");
-  }
-  form.ArmyList.ListIndex = 2;
-  EXPECT_TRUE(ConfirmArmySelection(state, sample.Host, form));
-  EXPECT_EQ(state.BaseArmyName, "Epirus");
-  FillArmySelection(state, sample.Store, form);
-  EXPECT_EQ(state.BaseArmyName, "");
+  state.BaseUnits[2].UnitType = "LM";  // counted with the other monsters
+  state.BaseUnits[1].Bought = 20000;
+  EXPECT_THROW(said(20000), OverflowError);
 }
 
 }  // namespace

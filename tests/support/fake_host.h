@@ -5,13 +5,9 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "base/host.h"
+#include "support/testing.h"
 
 namespace tarnwick {
 
@@ -19,13 +15,14 @@ namespace tarnwick {
 /// run the function that the test put there. What no test expects is a failure.
 class FakeHost : public Host {
  public:
-  std::vector<std::string> Said;  ///< messages and questions in their order
+  Lines Said;  ///< messages and questions in their order
   std::deque<bool> Answers;
-  std::function<void()> OnArmySelectionForm, OnArmyListForm, OnLeaderMgmtForm, OnSpecForm;
+  std::function<void()> OnArmySelectionForm = Unexpected, OnArmyListForm = Unexpected,
+                        OnLeaderMgmtForm = Unexpected, OnSpecForm = Unexpected;
   std::vector<std::filesystem::path> Pictures;
 
   /// What was said since the last call.
-  std::vector<std::string> Heard() { return std::exchange(Said, {}); }
+  Lines Heard() { return std::exchange(Said, {}); }
 
   void Message(const std::string& text) override { Said.push_back(text); }
   bool Question(const std::string& text) override {
@@ -38,24 +35,15 @@ class FakeHost : public Host {
     Answers.pop_front();
     return answer;
   }
-  void ShowArmySelectionForm() override { Run(OnArmySelectionForm, "army selection"); }
-  void ShowArmyListForm() override { Run(OnArmyListForm, "saved armies"); }
-  void ShowLeaderMgmtForm() override { Run(OnLeaderMgmtForm, "leader"); }
-  void ShowSpecForm() override { Run(OnSpecForm, "special abilities"); }
+  void ShowArmySelectionForm() override { OnArmySelectionForm(); }
+  void ShowArmyListForm() override { OnArmyListForm(); }
+  void ShowLeaderMgmtForm() override { OnLeaderMgmtForm(); }
+  void ShowSpecForm() override { OnSpecForm(); }
   void ShowPicture(const std::filesystem::path& file) override { Pictures.push_back(file); }
   std::string Today() override { return "2026-11-21"; }
 
  private:
-  static void Run(const std::function<void()>& dialog, const char* name) {
-    if (dialog) {
-      dialog();
-    } else {
-      ADD_FAILURE() << "Nobody expects the dialog: " << name;
-    }
-  }
+  static void Unexpected() { ADD_FAILURE() << "Nobody expects this dialog"; }
 };
-
-/// What a host has heard, as tests spell it.
-using Lines = std::vector<std::string>;
 
 }  // namespace tarnwick

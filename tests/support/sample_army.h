@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 #include "armyfile/loading.h"
 #include "armyfile/saving.h"
@@ -13,21 +12,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-
-inline constexpr std::string_view sampleCatalog =
-    "[Sample Army]\npoints=500\ncommand_pts=200\n"
-    "tot_units=5\nunit1=HI,Vet,2.5,4,A,16,8,Line\nunit2=SK,,3,1,J,4,9,\nunit3=PH,,4.5,4,,20,3,\n"
-    "unit4=EL,,5,4,,28,2,\nunit5=BI,,20000,4,,0,9,\n"
-    "tot_leader=1\nleader1=Arcas of Tyre,7,2,150\n"
-    "tot_special=4\nspecial1=RALLY,8,4\nspecial2=FLANK,2.5,4\nspecial3=CALTROP,5,5\n"
-    "special4=\xC9LAN,4,4\n"
-    "[Strict Army]\npoints=100\ncommand_pts=200\ntot_limits=1\nlimit1=HI,1\n"
-    "tot_leader=1\nleader1=Milo,4,1,40\n";
-
-inline constexpr std::string_view sampleImages =
-    "[IMAGES]\ntotal=5\nimage1=pictures/vet.svg,HI,Vet,A,Veteran\n"
-    "image2=pictures/sk one.svg,SK,,J,Javelin\nimage3=pictures/sk two.svg,SK,,J,Long javelin\n"
-    "image4=pictures/ph.svg,PH,,,Pike\nimage5=pictures/bi.svg,BI,,,Band\n";
 
 /// A started editor without its window, and its user.
 struct Desk {
@@ -61,16 +45,14 @@ struct Desk {
   FakeHost Host;
   Disk Store;
   WorkingArmy Work;
+  ArmyState& Army = Work.Army;
+  ArmyHeader& Header = Work.Header;
+  Battlefield& Field = Work.Field;
 };
 
-/// A folder with catalogs for both modules.
+/// A folder with small catalogs for both modules.
 struct SampleFolder {
-  SampleFolder() {
-    for (const std::string module : {"", "brakka/"})
-      Folder.Write(module + "armylist.dat", sampleCatalog);
-    Folder.Write("images.dat", sampleImages);
-    Folder.Write("brakka/images_brakka.dat", "[IMAGES]\ntotal=1\nimage1=troll.svg,SM,,,Troll\n");
-  }
+  SampleFolder() { Folder.Copy(TEST_DATA "/sample"); }
 
   TempFolder Folder;
 };

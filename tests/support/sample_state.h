@@ -35,6 +35,8 @@ struct SampleState {
   FakeHost Host;
   Disk Store{Folder.Path()};
   ArmyState State;
+  UnitsPanel& Units = State.Units;
+  CommandPanel& Command = State.Command;
 };
 
 /// "left/spent" of the army points.

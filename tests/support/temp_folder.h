@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -39,6 +40,14 @@ class TempFolder {
     std::filesystem::create_directories((path_ / name).parent_path());
     std::ofstream out(path_ / name, std::ios::binary);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  }
+
+  /// Copies a folder into it. Its files look old: what was just written is read at every look.
+  void Copy(const std::filesystem::path& from) const {
+    std::filesystem::copy(from, path_, std::filesystem::copy_options::recursive);
+    const auto stamp = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_))
+      std::filesystem::last_write_time(entry, stamp);
   }
 
   std::string Read(std::string_view name) const { return ReadBytes(path_ / name); }
