@@ -3,111 +3,103 @@
 #include "armyfile/army_browser.h"
 
 #include <filesystem>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "support/fake_host.h"
-#include "support/temp_folder.h"
+#include "support/sample_army.h"
 
 namespace tarnwick {
 namespace {
 
-class ArmyBrowser : public testing::Test {
- protected:
-  /// Lists the armies, by name, and selects one.
-  std::string Select(const std::string& name) {
-    FillArmyList(work_.Army, disk_, form_);
-    form_.ArmyList.Select(name);
-    ShowArmyDetail(work_.Army, disk_, form_);
-    std::string names;
-    for (const ListEntry& entry : form_.ArmyList.Entries)
-      names += entry.Text + ";";
-    return names;
+struct ArmyBrowser : testing::Test, SampleArmy {
+  /// Lists the armies and selects one by its name; the names come back.
+  Lines Select(const std::string& name) {
+    FillArmyList(Army, Store, Form);
+    Form.ArmyList.Select(name);
+    ShowArmyDetail(Army, Store, Form);
+    return Entries(Form.ArmyList);
   }
-
-  /// Whether the selected army is chosen, and what is said then.
+  /// Chooses the selected army; what was said comes back, or else the army.
   std::string Choose() {
-    const bool chosen = SelectArmy(work_, disk_, host_, form_);
-    const Lines said = host_.Heard();
+    const bool chosen = SelectArmy(Work, Store, Host, Form);
+    const Lines said = Host.Heard();
     EXPECT_EQ(chosen, said.empty());
-    return chosen ? "chosen" : said.front();
+    return chosen ? Header.ArmyFile : said.front();
   }
 
-  TempFolder folder_;
-  Disk disk_{folder_.Path()};
-  WorkingArmy work_;
-  FakeHost host_;
-  ArmyListForm form_;
+  ArmyListForm Form;
 };
 
 TEST_F(ArmyBrowser, ListsAndDescribesArmyFiles) {
   for (const char* name : {"Zama.army", "alesia.army", "\xC3\x89lan.army", "b.army", "c.ARMY",
                            "d.army.new", "brakka\\e.army", "brakka/troll.army", "folder.army/x"}) {
-    folder_.Write(name,
-                  "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Ana\ninitiative=7\ncommand=2\n[ARMY]\n"
-                  "name=The B\nbase=Host\nnumunits=12\nroute=30 %\npoints=90\nTQ=\nrally=2\n");
+    Folder.Write(name,
+                 "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Ana\ninitiative=7\ncommand=2\n[ARMY]\n"
+                 "name=The B\nbase=Host\nnumunits=12\nroute=30 %\npoints=90\nTQ=\nrally=2\n"
+                 "flank=1\n");
   }
-  EXPECT_EQ(Select("b"), "alesia;b;Zama;\xC9lan;");
+  EXPECT_EQ(Select("b"), (Lines{"alesia", "b", "Zama", "\xC9lan"}));
   const std::string detail =
       "\n\rName: The B\n\rBase: Host\n\rUnits: 12\n\rRoute %: 30\n\rPoints: 90\n\r"
-      "TQ points: 0\n\rRally cards: 2\n\rFlank cards: \n\rLeader: Ana\n\r  command: 2\n\r"
+      "TQ points: 0\n\rRally cards: 2\n\rFlank cards: 1\n\rLeader: Ana\n\r  command: 2\n\r"
       "  initiative: 7";
-  EXPECT_EQ(form_.ArmyDetailLabel.Caption, detail);
-  EXPECT_EQ(Choose() + work_.Header.ArmyFile, "chosenb");
-  work_.Army.BrakkaMode = true;
+  EXPECT_EQ(Form.ArmyDetailLabel.Caption, detail);
+  EXPECT_EQ(Choose(), "b");
+  Army.BrakkaMode = true;
   // Armies of the second module are weighed by their namesakes in the program folder.
-  folder_.Write("troll.army", "[EDITOR]\nversion=9.5\n");
-  EXPECT_EQ(Select("troll"), "troll;");
-  EXPECT_EQ(form_.ArmyDetailLabel.Caption, detail + "\n\r\n\r*** Required editor version: 9.5");
-  EXPECT_EQ(Choose() + work_.Header.ArmyFile, "This army need version 9.5 or betterb");
+  Folder.Write("troll.army", "[EDITOR]\nversion=9.5\n");
+  EXPECT_EQ(Select("troll"), Lines{"troll"});
+  EXPECT_EQ(Form.ArmyDetailLabel.Caption, detail + "\n\r\n\r*** Required editor version: 9.5");
+  EXPECT_EQ(Choose(), "This army need version 9.5 or better");
+  EXPECT_EQ(Header.ArmyFile, "b");
 }
 
-TEST_F(ArmyBrowser, WeighsVersionsAsOneNumber) {
+TEST_F(ArmyBrowser, WeighsVersionsAsOneRoundedNumber) {
   const auto choose = [this](const std::string& version) {
-    folder_.Write("x.army", "[EDITOR]\nversion=" + version + "\n[ARMY]\nbase=Host\n");
+    Folder.Write("x.army", "[EDITOR]\nversion=" + version + "\n[ARMY]\nbase=Host\n");
     Select("x");
     return Choose();
   };
-  for (const char* version : {"1.2.1", "0.9.9", "1.1.11", "1.2", "1.2.1.9", "1.2.1b", "new"})
-    EXPECT_EQ(choose(version), "chosen") << version;
-  for (const std::string version : {"1.3.0", "1.1.15", "1.2.2", "2"})
+  for (const char* version :
+       {"1.2.1", "0.9.9", "1.1.11", "1.2", "1.2.1.9", "1.2.1b", "1.2.14e-1", "new"}) {
+    EXPECT_EQ(choose(version), "x") << version;
+  }
+  for (const std::string version : {"1.3.0", "1.1.15", "1.2.2", "1.2.15e-1", "2"})
     EXPECT_EQ(choose(version), "This army need version " + version + " or better");
 }
 
 TEST_F(ArmyBrowser, ChoosesOnlyWhatThisEditorMade) {
-  folder_.Write("other.army", "some other program's\n");
-  folder_.Write("own.army", "[ARMY]\nbase=Host\n");  // of no version
+  Folder.Write("other.army", "some other program's\n");
+  Folder.Write("own.army", "[ARMY]\nbase=Host\n");  // of no version
   const std::string foreign = "This army has not been created whit this editor";
   EXPECT_EQ(Choose(), foreign);
   Select("other");
   EXPECT_EQ(Choose(), foreign);
   Select("own");
-  EXPECT_EQ(Choose(), "chosen");
-  form_.ArmyList.ListIndex = -1;
+  EXPECT_EQ(Choose(), "own");
+  const std::string detail = Form.ArmyDetailLabel.Caption;
+  Form.ArmyList.ListIndex = -1;  // what was shown last stays
+  ShowArmyDetail(Army, Store, Form);
+  EXPECT_EQ(Form.ArmyDetailLabel.Caption, detail);
   EXPECT_EQ(Choose(), "Please select one army");
   Select("");
   EXPECT_EQ(Choose(), foreign);  // listing the armies again forgets the one that was shown
 }
 
 TEST_F(ArmyBrowser, DeletesInTheProgramFolderAfterAQuestion) {
-  folder_.Write("a.army", "");
-  folder_.Write("brakka/a.army", "[ARMY]\n");
-  work_.Army.BrakkaMode = true;
-  DelArmy_Click(work_.Army, disk_, host_, form_);  // nothing is selected
-  host_.Answers = {false, true, true};
+  Folder.Write("a.army", "");
+  Folder.Write("brakka/a.army", "[ARMY]\n");
+  Army.BrakkaMode = true;
+  DelArmy_Click(Army, Store, Host, Form);  // nothing is selected
+  Host.Answers = {false, true, true};
   Select("a");
-  DelArmy_Click(work_.Army, disk_, host_, form_);
-  EXPECT_TRUE(folder_.Has("a.army"));
-  DelArmy_Click(work_.Army, disk_, host_, form_);
-  EXPECT_FALSE(folder_.Has("a.army") || form_.ArmyList.HasSelection());
-  EXPECT_EQ(Select("a"), "a;");
-  std::filesystem::create_directory(folder_ / "a.army");  // no file
-  EXPECT_THROW(DelArmy_Click(work_.Army, disk_, host_, form_), FileError);
-  EXPECT_TRUE(folder_.Has("a.army"));
-  const std::string question = "Do You really want to delete the army a ?";
-  EXPECT_EQ(host_.Heard(), (Lines{question, question, question}));
+  DelArmy_Click(Army, Store, Host, Form);
+  EXPECT_TRUE(Folder.Has("a.army"));
+  DelArmy_Click(Army, Store, Host, Form);
+  EXPECT_FALSE(Folder.Has("a.army") || Form.ArmyList.HasSelection());
+  EXPECT_EQ(Select("a"), Lines{"a"});
+  std::filesystem::create_directory(Folder / "a.army");  // no file
+  EXPECT_THROW(DelArmy_Click(Army, Store, Host, Form), FileError);
+  EXPECT_TRUE(Folder.Has("a.army"));
+  EXPECT_EQ(Host.Heard(), Lines(3, "Do You really want to delete the army a ?"));
 }
 
 }  // namespace

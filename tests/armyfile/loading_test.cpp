@@ -2,101 +2,94 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/loading.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "armyfile/saving.h"
-#include "base/errors.h"
-#include "base/numbers.h"
 #include "base/text.h"
 #include "support/sample_army.h"
 
 namespace tarnwick {
 namespace {
 
-const std::string file =
-    "[EDITOR]\nversion=1.2.1\n[LEADER]\nname=Arcas the Other\ninitiative=5\ncommand=1\n"
-    "[ARMY]\nname=Mine\nbase=Sample Army\nauthor=Zo\xEB\npoints=1\ndescription=a@b\n"
-    "period=-500,30\ntype=xPF\nspecial_rules=MOBILITY,Fow,LONGSWORD,,TRIBAL\nflank=3\nrally=-1\n"
-    "unit1=SK,,3,1,J,pictures/sk two.svg\nunit2=EL,,5,4,,pictures/vet.svg,Old\n"
-    "unit3=SK,,3,1,J,pictures/sk one.svg\nnumunits=3\n"
-    "[TERRAIN]\narea2=SLOPE\n[SETUP 4]\ndescription=four\nfield1=SK,,3,1,J\n";
+struct Loading : testing::Test, SampleArmy {
+  Loading() { Folder.Write("more.dat", "[IMAGES]\ntotal=1\nimage1=pictures/el.svg,EL,,,Big\n"); }
 
-class Loading : public testing::Test {
- protected:
   void Load(const std::string& bytes) {
-    sample_.Folder.Write("x.army", bytes);
-    sample_.Load("x");
+    Folder.Write("x.army", bytes);
+    Desk::Load("x");
+  }
+  /// Loads the file with a change.
+  void Load(const std::string& find, const std::string& replacement) {
+    Load(ReplaceText(find, replacement, file));
   }
 
-  /// What is bought of rows 1 to 5, the army points left and spent, the command points.
+  /// What is bought of rows 2, 4 and 6; the army points left and spent, the command points.
   std::string Bought() const {
-    std::string text;
-    for (int r = 1; r <= 5; ++r)
-      text += NumberText(army_.BaseUnits[r].Bought);
-    return text + " " + NumberText(army_.PointsLeft) + "/" + NumberText(army_.PointsSpent) + " " +
-           NumberText(army_.CommandPts);
+    const auto& rows = Army.BaseUnits;
+    return Joined(rows[2].Bought, rows[4].Bought, rows[6].Bought, Army.PointsLeft, Army.PointsSpent,
+                  Army.CommandPts);
+  }
+  /// Which leader is chosen, and the buttons that are ticked.
+  std::string Leader() const {
+    std::string leader = Joined(Army.SelectedLeader);
+    for (int i = 0; i <= 6; ++i)
+      if (Army.Command.LeaderName[i].Value) leader += "|" + Army.Command.LeaderName[i].Caption;
+    return leader;
   }
 
-  SampleArmy sample_;
-  FakeHost& host_ = sample_.Host;
-  ArmyState& army_ = sample_.Work.Army;
-  ArmyHeader& header_ = sample_.Work.Header;
-  Battlefield& field_ = sample_.Work.Field;
+  const std::string file = TempFolder::ReadBytes(TEST_DATA "/armies/by_hand.army");
 };
 
 TEST_F(Loading, BringsBackTheWholeArmy) {
-  header_.Ferocity.Value = header_.FOW.Value = true;
-  sample_.Folder.Write("working.setup", "[SETUP 1]\ndescription=old\n");
+  Header.Ferocity.Value = Header.FOW.Value = true;
+  Folder.Write("working.setup", "[SETUP 1]\ndescription=old\n");
   Load(file);
-  EXPECT_EQ(host_.Heard(), Lines());
+  EXPECT_EQ(Host.Heard(), Lines());
   // 500 - 36 - 30 of a slope; 200 - 150 - 8 of three cards (7.5) + 8 of minus one card - 5
-  EXPECT_EQ(Bought(), "02010 434/36 45");
-  EXPECT_EQ(army_.FootUnits, 3);       // the elephant's class is not mounted
-  EXPECT_EQ(army_.SelectedLeader, 0);  // of the same first word
-  EXPECT_TRUE(army_.Command.LeaderName[0].Value);
-  std::string cards;  // the third is not in the file, for the fourth nobody asks
-  for (int j = 0; j < 4; ++j)
-    cards += army_.Command.SpecBuy[j].Text + "/" + army_.Command.SpecBuy[j].Tag + " ";
-  EXPECT_EQ(cards, "-1/-1 3/3 0/0 /0 ");
-  EXPECT_EQ(header_.ArmyDesc.Text + header_.ArmyAuthor, "a\r\nbZo\xEB");
-  EXPECT_EQ(header_.FromData.Text + header_.ToData.Text + ArmyTypeCode(header_), "50030FP");
-  EXPECT_EQ(SpecialRulesText(header_), "MOBILITY,LONGSWORD");  // the reset cleared all
-  EXPECT_EQ(field_.AreaTerrain[1] + field_.Setup.setupList.Entries.at(0).Text, "SLOPE4");
-  EXPECT_EQ(army_.EditFrame.Front, Panel::Units);
-  EXPECT_EQ(army_.BaseUnits[2].ChosenImageIdx, 2);  // the last line's picture
-  EXPECT_EQ(army_.Units.Buy[1].Text + army_.Units.ImageName[1].Text(), "2Javelin");
+  EXPECT_EQ(Bought(), "2|1|0|434|36|45");
+  EXPECT_EQ(Army.Units.TotalCost.Caption, "Points left: 434 of 500");
+  EXPECT_EQ(Joined(Army.NumUnits, Army.FootUnits, Army.MountedUnits), "3|3|0");  // by class
+  EXPECT_EQ(Leader(), "0|Arcas of Tyre 150 [ 7 / 2 ] ");  // its first word begins the name
+  Lines cards;  // the third is not in the file, for the fourth nobody asks
+  for (int j = 0; j < 5; ++j)
+    cards.push_back(Joined(Army.Command.SpecBuy[j].Text, Army.Command.SpecBuy[j].Tag));
+  EXPECT_EQ(cards, (Lines{"-1|-1", "3|3", "0|0", "|0", "|0"}));
+  EXPECT_EQ(Joined(Header.ArmyDesc.Text, Header.ArmyAuthor, Header.FromData.Text,
+                   Header.ToData.Text, ArmyTypeCode(Header), Header.ArmyTypeText),
+            "a\r\nb|Zo\xEB|500|30|FP|xPF");
+  EXPECT_EQ(SpecialRulesText(Header), "MOBILITY,LONGSWORD");  // the reset cleared all
+  EXPECT_EQ(Joined(Field.AreaTerrain[1], Field.Setup.setupList.Entries.at(0).Text), "SLOPE|4");
+  EXPECT_EQ(Army.EditFrame.Front, Panel::Units);
+  // The last line's picture; the one of the elephant is in the catalog that the file names.
+  EXPECT_EQ(Joined(Army.Units.Buy[1].Text, Army.Units.ImageName[1].Text()), "2|Javelin");
+  EXPECT_EQ(Joined(Army.BaseUnits[2].ChosenImageIdx, Army.BaseUnits[4].ChosenImageIdx,
+                   Header.ArmyImages, Army.Management.ArmyFileName.Text),
+            "2|7|more.dat|x");
+  Folder.Write("more.dat", "[IMAGES]\ntotal=2\nimage2=pictures/el.svg,EL,,,Big\n");
+  Load("sk one", "sk two");
+  EXPECT_EQ(Joined(Army.BaseUnits[2].ChosenImageIdx, Army.BaseUnits[4].ChosenImageIdx), "3|8");
 
-  Load(ReplaceText("Arcas the Other\ninitiative=5", "Cyr\ninitiative=5.5 or so", file));
-  EXPECT_EQ(army_.Command.LeaderName[1].Caption, "Cyr 100 [ 5.5 / 1 ] ");  // the cost of 6
-  EXPECT_TRUE(army_.Command.LeaderName[1].Value && army_.Command.LeaderName[1].Visible);
-  EXPECT_EQ(Bought(), "02010 434/36 95");
+  Load("type=xPF\n", "");
+  EXPECT_EQ(Joined(ArmyTypeCode(Header), Header.ArmyTypeText), "|");
+  Load("name=Mine", "name=");
+  EXPECT_EQ(Army.Management.ArmyName.Text, "Sample Army");
   Load(ReplaceText("[ARMY]", "[ARMY]\nname=No\nNAME=Nor\n", file) + "unit1=X\n[ARMY]\nbase=X\n");
-  EXPECT_EQ(Bought() + army_.Management.ArmyName.Text, "02010 434/36 45No");  // the first counts
+  EXPECT_EQ(Joined(Bought(), Army.Management.ArmyName.Text), "2|1|0|434|36|45|No");  // the first
+  EXPECT_EQ(Host.Heard(), Lines());
 }
 
-TEST_F(Loading, AResetReadsThePointsAgain) {
-  Load(file);
-  sample_.Folder.Write("armylist.dat", "[Sample Army]\npoints=321\ncommand_pts=99.5\n");
-  sample_.Load("");  // nothing is chosen
-  EXPECT_EQ(Bought(), "00000 321/0 100");
-  EXPECT_EQ(army_.Units.TotalCost.Caption, "Points left: 321 of 500");
-  EXPECT_EQ(army_.SelectedLeader, -1);
-  EXPECT_FALSE(army_.Command.LeaderName[0].Value);
-  EXPECT_EQ(army_.Command.SpecBuy[1].Text + army_.Command.SpecBuy[1].Tag, "0");
-  const UnitsPanel& grid = army_.Units;
-  EXPECT_EQ(grid.Buy[1].Text + grid.Buy[1].Tag + grid.UnitTotalLabel[1].Caption +
-                grid.UnitTotalLabel[1].Tag + grid.ImageName[1].Text(),
-            "0Javelin");
-  EXPECT_EQ(header_.FromData.Text + header_.ToData.Text + SpecialRulesText(header_), "");
-  EXPECT_EQ(header_.ArmyPeriod, "-500,30");  // only its boxes were emptied
-  EXPECT_EQ(field_.AreaTerrain[1], "CLEAR");
-  EXPECT_FALSE(army_.GridFilling || army_.SetupLoading);
+TEST_F(Loading, LeadersAreTakenOrMadeAndPaidBeforeTheCards) {
+  Load("Arcason\ninitiative=5", "Cyr\ninitiative=5.5 or so");
+  EXPECT_EQ(Joined(Bought(), Army.LeaderCount), "2|1|0|434|36|95|4");
+  EXPECT_EQ(Leader(), "3|Cyr 100 [ 5.5 / 1 ] ");  // the cost of 6
+  EXPECT_TRUE(Army.Command.LeaderName[3].Visible);
+  Load("flank=3", "flank=30");  // 75 points; a leader whom nobody could pay after them
+  EXPECT_EQ(Joined(Leader(), Army.CommandPts), "0|Arcas of Tyre 150 [ 7 / 2 ] |-22");
+  EXPECT_EQ(Host.Heard(), Lines());
+  Load("Arcason", "Dido");  // too dear, and chosen all the same
+  EXPECT_EQ(Host.Heard(), Lines{"Insufficient points left"});
+  EXPECT_EQ(Joined(Army.SelectedLeader, Army.CommandPts), "2|195");
 }
 
 TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
-  const std::string notFound = " not found in " + (sample_.Folder / "x.army").string();
+  const std::string notFound = " not found in " + (Folder / "x.army").string();
   const std::string second = "Unit number 2" + notFound;
   const struct {
     const char *Find, *Replacement;
@@ -105,61 +98,56 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
   } faults[] = {
       {"base=Sample Army", "base=Nobody",
        "The army type [Nobody] is not present in armylist.dat\r\nThis army cannot be edited",
-       "00000 0/0 0"},
-      {"numunits=3", "numunits=4", "Unit number 4" + notFound, "02010 500/36 200"},
-      {"EL,,5,4,", "El,,5,4,", second, "01000 500/4 200"},
-      {"EL,,5,4,", "EL,x,5,4,", second, "01000 500/4 200"},
-      {"EL,,5,4,", "EL,,5.0,4,", second, "01000 500/4 200"},
-      {"EL,,5,4,", "EL,,5,3,", second, "01000 500/4 200"},
-      {"EL,,5,4,", "EL,,5,4,J", second, "01000 500/4 200"},
-      // Saved as it must be, the missile "A" is not found again.
-      {"EL,,5,4,", "HI,Vet,2.5,4,AF", second, "01000 500/4 200"},
-      {"vet.svg", "Vet.svg", "No image match for unit 2 (pictures/Vet.svg)", "01010 500/32 200"}};
+       "0|0|0|0|0|0"},
+      {"numunits=3.4", "numunits=4", "Unit number 4" + notFound, "2|1|0|500|36|200"},
+      {"EL,,5,4,", "El,,5,4,", second, "1|0|0|500|4|200"},
+      {"EL,,5,4,", "EL,x,5,4,", second, "1|0|0|500|4|200"},
+      {"EL,,5,4,", "EL,,5,4,J", second, "1|0|0|500|4|200"},
+      {"el.svg", "El.svg", "No image match for unit 2 (pictures/El.svg)", "1|1|0|500|32|200"}};
   for (const auto& [find, replacement, said, bought] : faults) {
     SCOPED_TRACE(said);
-    Load(ReplaceText(find, replacement, file));
-    EXPECT_EQ(host_.Heard(), Lines{said});
+    Load(find, replacement);
+    EXPECT_EQ(Host.Heard(), Lines{said});
     EXPECT_EQ(Bought(), bought);
-    EXPECT_EQ(army_.Units.Buy[0].Visible, bought[1] != '0');
-    EXPECT_EQ(army_.SelectedLeader, -1);
-    EXPECT_EQ(field_.AreaTerrain[1] + header_.FromData.Text, "CLEAR");
-    EXPECT_EQ(army_.Management.ArmyName.Text + header_.ArmyPeriod, "Mine-500,30");
+    EXPECT_EQ(Army.Units.Buy[0].Visible, Army.TotUnits > 0);
+    EXPECT_EQ(Joined(Leader(), Field.AreaTerrain[1], Header.FromData.Text), "-1|CLEAR|");
+    EXPECT_EQ(Joined(Army.Management.ArmyName.Text, Header.ArmyPeriod), "Mine|-500,30");
   }
-  EXPECT_THROW(Load(ReplaceText("=3\n[T", "=40000\n[T", file)), OverflowError);
-  EXPECT_EQ(Bought(), "00000 500/0 200");
-  EXPECT_THROW(Load(ReplaceText("SLOPE", "slope", file)), SubscriptError);
-  EXPECT_EQ(field_.AreaTerrain[1] + Bought(), "slope02010 464/36 50");
-  EXPECT_EQ(header_.FromData.Text, "");
-  EXPECT_THROW(Load(ReplaceText("-500,30", "-500", file)), TypeMismatchError);
-  EXPECT_TRUE(field_.Setup.setupList.Entries.empty());
-  for (const char* count : {"=0", "=-1", "=some"}) {
-    Load(ReplaceText("=3\n[T", std::string(count) + "\n[T", file));
-    EXPECT_EQ(Bought(), "00000 470/0 45") << count;
+  EXPECT_THROW(Load("=3.4", "=40000"), OverflowError);
+  EXPECT_EQ(Bought(), "0|0|0|500|0|200");
+  EXPECT_THROW(Load("SLOPE", "slope"), SubscriptError);
+  EXPECT_EQ(Joined(Field.AreaTerrain[1], Bought(), Header.FromData.Text), "slope|2|1|0|464|36|50|");
+  EXPECT_THROW(Load("-500,30", "-500"), TypeMismatchError);
+  EXPECT_TRUE(Field.Setup.setupList.Entries.empty());
+  for (const char* count : {"=0 ", "=-1 ", "=some "}) {
+    Load("=3.4 ", count);
+    EXPECT_EQ(Bought(), "0|0|0|470|0|45") << count;
   }
   std::string full = "[Sample Army]\ntot_units=200\n";  // no row is left for the search to end on
   for (int i = 1; i <= 200; ++i)
     full += RowKey("unit", i) + "=MI,,3,1,,5,9,\n";
-  sample_.Folder.Write("armylist.dat", full);
+  Folder.Write("armylist.dat", full);
   EXPECT_THROW(Load(file), SubscriptError);
-  sample_.Folder.Write("armylist.dat", "[Sample Army]\ntot_units=-3\n");
+  Folder.Write("armylist.dat", "[Sample Army]\ntot_units=-3\n");
   Load(file);
-  EXPECT_EQ(host_.Heard(), Lines{"Unit number 1" + notFound});
+  EXPECT_EQ(Host.Heard(), Lines{"Unit number 1" + notFound});
 }
 
 TEST_F(Loading, TheSecondModuleLosesTerrainAndSetups) {
-  sample_.Folder.Write("brakka/images_brakka.dat", sampleImages);
-  sample_.Folder.Write("brakka/x.army", file);
-  sample_.ChooseModule(1);
-  sample_.Load("x");
-  EXPECT_EQ(field_.AreaTerrain[1], "SLOPE");  // the file has it, though no save puts it there
-  EXPECT_TRUE(field_.Setup.setupList.Entries.empty());
-  host_.Answers = {true};
-  SaveArmy(sample_.Work, sample_.Store, host_);
-  EXPECT_EQ(host_.Heard().size(), 2U);
-  EXPECT_TRUE(sample_.Folder.Read("brakka/x.army").ends_with("TQ=4\r\nroute=30\r\n"));
-  EXPECT_TRUE(sample_.Folder.Read("x.army").starts_with("[TERRAIN]\r\narea1=CLEAR\r\narea2=SLOPE"));
-  sample_.Load("x");
-  EXPECT_EQ(field_.AreaTerrain[1], "CLEAR");
+  Folder.Write("brakka/x.army", file);
+  Folder.Write("x.army", "[ARMY]\nimages=more.dat\n");
+  ChooseModule(1);
+  Desk::Load("x");
+  EXPECT_EQ(Host.Heard(), Lines{"No image match for unit 1 (pictures/sk two.svg)"});
+  Folder.Write("brakka/x.army", ReplaceText("two.svg", "one.svg", file));
+  Desk::Load("x");
+  EXPECT_EQ(Field.AreaTerrain[1], "SLOPE");  // the file has it, though no save puts it there
+  EXPECT_TRUE(Field.Setup.setupList.Entries.empty());
+  EXPECT_EQ(Save(), "Army Saved");
+  EXPECT_TRUE(Folder.Read("brakka/x.army").ends_with("TQ=4\r\nroute=30\r\n"));
+  EXPECT_NE(Folder.Read("x.army").find("\narea2=SLOPE\r\n"), std::string::npos);
+  Desk::Load("x");
+  EXPECT_EQ(Field.AreaTerrain[1], "CLEAR");
 }
 
 }  // namespace
