@@ -2,34 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/army_header.h"
 
-#include "rules/army_state.h"
-#include "support/fake_host.h"
-#include "support/temp_folder.h"
+#include "support/sample_army.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr int bc = 0, ac = 1;
 
-struct Header : testing::Test {
+struct Period : testing::Test, SampleArmy {
   void Enter(const std::string& from, int fromEra, const std::string& to, int toEra) {
-    header_.FromData.Text = from;
-    header_.ToData.Text = to;
-    TickOption(header_.FromACBC, fromEra);
-    TickOption(header_.toACBC, toEra);
+    Header.FromData.Text = from;
+    Header.ToData.Text = to;
+    TickOption(Header.FromACBC, fromEra);
+    TickOption(Header.toACBC, toEra);
   }
-
   /// The boxes, "-" for BC.
-  std::string Shown() const {
-    return (header_.FromACBC[bc].Value ? "-" : "") + header_.FromData.Text +
-           (header_.toACBC[bc].Value ? ",-" : ",") + header_.ToData.Text;
+  std::string Boxes() const {
+    return (Header.FromACBC[bc].Value ? "-" : "") + Header.FromData.Text +
+           (Header.toACBC[bc].Value ? ",-" : ",") + Header.ToData.Text;
   }
-
-  ArmyHeader header_;
-  FakeHost host_;
 };
 
-TEST_F(Header, EachPeriodBoxReportsEveryFailedCheckAndCountsAllTheSame) {
+TEST_F(Period, EachBoxReportsEveryFailedCheckAndCountsAllTheSame) {
   const std::string range = "Please insert a numeric value between 3500 and 0";
   const std::string before = "the date must be precedent to ";
   const std::string after = "the date must be successive to ";
@@ -51,70 +45,68 @@ TEST_F(Header, EachPeriodBoxReportsEveryFailedCheckAndCountsAllTheSame) {
                {bc, bc, "-5x", "5", {range, range, before + "5"}, {after + "-5x"}, "5,-5"}};
   for (const auto& c : cases) {
     Enter(c.From, c.FromEra, c.To, c.ToEra);
-    EXPECT_EQ(FromData_Validate(header_, host_), !c.LeavingFrom.empty()) << c.From;
-    EXPECT_EQ(host_.Heard(), c.LeavingFrom) << c.From;
-    EXPECT_EQ(header_.ArmyPeriod, c.ArmyPeriod);
-    header_.ArmyPeriod = "";
-    EXPECT_EQ(ToData_Validate(header_, host_), !c.LeavingTo.empty()) << c.To;
-    EXPECT_EQ(host_.Heard(), c.LeavingTo) << c.To;
-    EXPECT_EQ(header_.ArmyPeriod, c.ArmyPeriod);
+    EXPECT_EQ(FromData_Validate(Header, Host), !c.LeavingFrom.empty()) << c.From;
+    EXPECT_EQ(Host.Heard(), c.LeavingFrom) << c.From;
+    EXPECT_EQ(std::exchange(Header.ArmyPeriod, ""), c.ArmyPeriod);
+    EXPECT_EQ(ToData_Validate(Header, Host), !c.LeavingTo.empty()) << c.To;
+    EXPECT_EQ(Host.Heard(), c.LeavingTo) << c.To;
+    EXPECT_EQ(Header.ArmyPeriod, c.ArmyPeriod);
   }
-  // What begins AC also ends AC, whichever button is clicked.
-  Enter("100", ac, "200", bc);
-  FromACBC_Click(header_);
-  EXPECT_EQ(Joined(Shown(), header_.ArmyPeriod), "100,200|100,200");
-  TickOption(header_.toACBC, bc);
-  toACBC_Click(header_);
-  EXPECT_EQ(Shown(), "100,200");
-  Enter("100", bc, "200", ac);
-  toACBC_Click(header_);
-  EXPECT_EQ(Joined(Shown(), header_.ArmyPeriod), "-100,200|-100,200");
 }
 
-TEST_F(Header, APeriodIsShownInItsBoxes) {
-  EXPECT_EQ(Shown(), "-,-");
-  EXPECT_EQ(Joined(header_.FromACBC[bc].Caption, header_.toACBC[ac].Caption), "BC|AC");
-  for (const char* period : {"-500,30", "0,-1", "-12,0"}) {
-    header_.ArmyPeriod = period;
-    ShowPeriod(header_);
-    EXPECT_EQ(Shown(), period);
+TEST_F(Period, WhatBeginsAcAlsoEndsAc) {
+  for (const auto click : {FromACBC_Click, toACBC_Click}) {  // whichever button is clicked
+    Enter("100", ac, "200", bc);
+    click(Header);
+    EXPECT_EQ(Joined(Boxes(), Header.ArmyPeriod), "100,200|100,200");
+    Enter("100", bc, "200", ac);
+    click(Header);
+    EXPECT_EQ(Joined(Boxes(), Header.ArmyPeriod), "-100,200|-100,200");
   }
-  header_.ArmyPeriod = " -2.5 ,7, more";
-  ShowPeriod(header_);
-  header_.ArmyPeriod = "";
-  ShowPeriod(header_);
+}
+
+TEST_F(Period, IsShownInItsBoxes) {
+  EXPECT_EQ(Joined(Boxes(), Header.FromACBC[bc].Caption, Header.toACBC[ac].Caption), "-,-|BC|AC");
+  for (const char* period : {"-500,30", "0,-1", "-12,0"}) {
+    Header.ArmyPeriod = period;
+    ShowPeriod(Header);
+    EXPECT_EQ(Boxes(), period);
+  }
+  for (const char* period : {" -2.5 ,7, more", ""}) {
+    Header.ArmyPeriod = period;
+    ShowPeriod(Header);
+  }
   for (const char* period : {"-500", "1,x", ",", "500 BC,1"}) {
-    header_.ArmyPeriod = period;
-    EXPECT_THROW(ShowPeriod(header_), TypeMismatchError) << period;
+    Header.ArmyPeriod = period;
+    EXPECT_THROW(ShowPeriod(Header), TypeMismatchError) << period;
   }
   for (const char* period : {"40000,1", "1,40000", "-32768,1", "1,-32768"}) {
-    header_.ArmyPeriod = period;
-    EXPECT_THROW(ShowPeriod(header_), OverflowError) << period;
+    Header.ArmyPeriod = period;
+    EXPECT_THROW(ShowPeriod(Header), OverflowError) << period;
   }
-  EXPECT_EQ(Shown(), "-2,7");  // still
+  EXPECT_EQ(Boxes(), "-2,7");  // still
 }
 
-TEST_F(Header, TypeAndRulesComeFromTheFile) {
+struct ArmyHeaderTexts : testing::Test, SampleArmy {};
+
+TEST_F(ArmyHeaderTexts, TypeAndRulesComeFromTheFile) {
   for (const std::string type : {"xPF", "F", "P", "fp"}) {
-    TakeArmyType(header_, type);
-    EXPECT_EQ(ArmyTypeCode(header_), type == "xPF" ? "FP" : type == "fp" ? "" : type);
+    TakeArmyType(Header, type);
+    EXPECT_EQ(ArmyTypeCode(Header), type == "xPF" ? "FP" : type == "fp" ? "" : type);
   }
-  const TempFolder folder;
-  const ProfileFiles files;
-  const struct {
-    const char *Rules, *Ticked;
-  } cases[] = {{"FOW,DISCIPLINE,TRIBAL,FEROCITY,MOBILITY,LONGSWORD",
-                "TRIBAL,FEROCITY,MOBILITY,LONGSWORD,FOW,DISCIPLINE"},
-               {"", "LONGSWORD,FOW,DISCIPLINE"},  // the other three are left alone
-               {"Tribal, FEROCITY,MOBILITY,,TRIBAL", "MOBILITY,LONGSWORD,FOW,DISCIPLINE"}};
-  for (const auto& c : cases) {
-    folder.Write("x.army", std::string("[ARMY]\nspecial_rules=") + c.Rules);
-    LoadSpecialRules(header_, files, folder / "x.army");
-    EXPECT_EQ(SpecialRulesText(header_), c.Ticked);
+  const std::pair<std::string, const char*> cases[] = {
+      {"FOW,DISCIPLINE,TRIBAL,FEROCITY,MOBILITY,LONGSWORD",
+       "TRIBAL,FEROCITY,MOBILITY,LONGSWORD,FOW,DISCIPLINE"},
+      {"", "LONGSWORD,FOW,DISCIPLINE"},  // the other three are left alone
+      {"Tribal, FEROCITY,MOBILITY,,TRIBAL", "MOBILITY,LONGSWORD,FOW,DISCIPLINE"}};
+  for (const auto& [rules, ticked] : cases) {
+    Folder.Write("x.army", "[ARMY]\nspecial_rules=" + rules);
+    LoadSpecialRules(Header, Store.Files, Folder / "x.army");
+    EXPECT_EQ(SpecialRulesText(Header), ticked);
   }
-  header_.ArmyDesc.Text = "a\r\n\r\nb\nc@";
-  ArmyDesc_Change(header_);
-  EXPECT_EQ(header_.ArmyDescription, "a@@b\nc@");
+  Header.ArmyDesc.Text = "a\r\n\r\nb\nc@";
+  ArmyDesc_Change(Header);
+  EXPECT_EQ(Header.ArmyDescription, "a@@b\nc@");
 }
 
 }  // namespace

@@ -9,8 +9,6 @@ namespace tarnwick {
 namespace {
 
 struct Loading : testing::Test, SampleArmy {
-  Loading() { Folder.Write("more.dat", "[IMAGES]\ntotal=1\nimage1=pictures/el.svg,EL,,,Big\n"); }
-
   void Load(const std::string& bytes) {
     Folder.Write("x.army", bytes);
     Desk::Load("x");

@@ -9,28 +9,23 @@
 namespace tarnwick {
 namespace {
 
-struct NewArmyTest : testing::Test, SampleArmy {
-  NewArmyTest() {
-    NewArmy("Sample Army");
-    Army.BaseUnits[1].Bought = 2;
-    Army.Management.ArmyName.Text = "Mine";
-    Header.ArmyDesc.Text = Header.ArmyDescription = "Words";
-    Header.TribalCheck.Value = Header.LongSword.Value = true;
-    Header.TYPE_IsPersonal.Value = Header.TYPE_IsFantasy.Value = true;
-    Work.Field.AreaTerrain[4] = "WOOD";
+struct AfterALoad : testing::Test, SampleArmy {
+  AfterALoad() {
+    Folder.Copy(TEST_DATA "/armies");
+    Load("saved");
   }
 
-  /// Name, description, rules, type, units of the first row, an area and the points.
+  /// Name, description, rules, type, skirmishers, an area and the points.
   std::string Summary() const {
     return Joined(Army.Management.ArmyName.Text, Header.ArmyDesc.Text, Header.ArmyDescription,
-                  SpecialRulesText(Header), ArmyTypeCode(Header), Army.BaseUnits[1].Bought,
-                  Work.Field.AreaTerrain[4], Army.PointsLeft);
+                  SpecialRulesText(Header).substr(0, 9), ArmyTypeCode(Header),
+                  Army.BaseUnits[2].Bought, Field.AreaTerrain[3], Army.PointsLeft);
   }
 };
 
-TEST_F(NewArmyTest, StartsFromTheChosenBaseArmy) {
+TEST_F(AfterALoad, ANewArmyStartsFromTheChosenBaseArmy) {
   NewArmy("");  // a cancelled choice empties name and description only
-  EXPECT_EQ(Summary(), "|||TRIBAL,LONGSWORD|FP|2|WOOD|500");
+  EXPECT_EQ(Summary(), "|||TRIBAL,FE|FP|2|WOOD|422");
   EXPECT_TRUE(Army.Units.Buy[0].Visible);
   NewArmy("Strict Army");
   EXPECT_EQ(Summary(), "Strict Army||||P|0|CLEAR|100");
@@ -38,12 +33,11 @@ TEST_F(NewArmyTest, StartsFromTheChosenBaseArmy) {
   EXPECT_FALSE(Army.Units.Buy[0].Visible);
 }
 
-TEST_F(NewArmyTest, IsAPlainValue) {
+TEST_F(AfterALoad, TheArmyIsAPlainValue) {
   const WorkingArmy before = Work;
   const std::function<void()> changes[] = {
       [&] { Army.Command.SpecBuy[3].Tag = "1"; }, [&] { Army.Command.SpecBuy.Load(); },
-      [&] { Field.Terrain.Area[8].Picture = 1; }, [&] { Header.ToData.Tag = "x"; },
-      [&] { NewArmy("Strict Army"); }};
+      [&] { Field.Terrain.Area[8].Picture = 1; }, [&] { NewArmy("Strict Army"); }};
   for (const auto& change : changes) {
     change();
     EXPECT_FALSE(Work == before);
@@ -52,17 +46,14 @@ TEST_F(NewArmyTest, IsAPlainValue) {
   }
 }
 
-TEST_F(NewArmyTest, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
+TEST_F(AfterALoad, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
   const std::string before = Summary();
-  Folder.Write("Tyre.army", "[ARMY]\nimages=more.dat\n");
-  Header.ArmyFile = "Tyre";
-  for (const int module : {1, 0, 1}) {
-    ChooseModule(module);
-    const bool brakka = module == 1;
+  for (const bool brakka : {true, false, true}) {
+    ChooseModule(brakka ? 1 : 0);
     EXPECT_EQ(Army.BrakkaMode, brakka);
     EXPECT_EQ(Army.ArmyListFile, Folder / (brakka ? "brakka/armylist.dat" : "armylist.dat"));
     EXPECT_EQ(Header.HistoricTab.Visible, !brakka);
-    EXPECT_EQ(Army.Catalog.TotImages, brakka ? 2 : 7);
+    EXPECT_EQ(Army.Catalog.TotImages, brakka ? 2 : 7);  // with the one that the file names
     EXPECT_EQ(Summary(), before);
   }
   Header.TYPE_IsFantasy.Value = false;
@@ -70,16 +61,17 @@ TEST_F(NewArmyTest, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
   EXPECT_EQ(Summary(), "Trolls||||FP|0|CLEAR|77");
 }
 
-TEST_F(NewArmyTest, TheEditorStartsWithThePictures) {
+struct Start : testing::Test, SampleArmy {};
+
+TEST_F(Start, ReadsThePictures) {
   EXPECT_EQ(Army.EditFrame.Front, Panel::Management);
   EXPECT_EQ(Army.Catalog.TotImages, 6);
-  Form_Load(Work, Store);
   EXPECT_EQ(Army.Title, "Velmora Tarnwick ver. 1.2.1");
   EXPECT_TRUE(Army.FormReady);
-  EXPECT_FALSE(Army.SpecRowsLoaded);
+  Army.SpecRowsLoaded = true;
   Folder.Write("images.dat", "[IMAGES]\ntotal=201\n");
   EXPECT_THROW(Form_Load(Work, Store), SubscriptError);
-  EXPECT_FALSE(Army.FormReady);
+  EXPECT_FALSE(Army.FormReady || Army.SpecRowsLoaded);
 }
 
 }  // namespace

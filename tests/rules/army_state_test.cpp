@@ -22,10 +22,9 @@ TEST(ArmyState, StartsWithTheDesignsTexts) {
   EXPECT_FALSE(command.SpecNameLabel[0].Visible || command.SpecCostLabel[0].Visible ||
                command.SpecMaxLabel[0].Visible || command.SpecBuy[0].Visible ||
                state.Units.Buy[22].Visible);
-  for (const std::string& hidden : {Shown(state.Units.TypeLimit, 7), Shown(state.Units.MinLimit, 7),
-                                    Shown(command.LeaderName, 7)}) {
-    EXPECT_EQ(hidden, "-|-|-|-|-|-|-|");
-  }
+  EXPECT_EQ((Lines{Shown(state.Units.TypeLimit, 7), Shown(state.Units.MinLimit, 7),
+                   Shown(command.LeaderName, 7)}),
+            Lines(3, "-|-|-|-|-|-|-|"));
 }
 
 TEST(MonsterLaboratory, OffersSizeQualityAndType) {

@@ -9,22 +9,18 @@ namespace {
 
 TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
   SampleState sample("[Armies]\ntotal=3\nname1=Gaul\nname3=Epirus\nname4=Too many\n");
-  ArmyState& state = sample.State;
   ArmySelectionForm form;
   form.ArmyList.AddItem("left over");
-  FillArmySelection(state, sample.Store, form);
+  FillArmySelection(sample.State, sample.Store, form);
   EXPECT_EQ(Entries(form.ArmyList), (Lines{"Gaul", "", "Epirus"}));
-  for (const int line : {-1, 1}) {
+  for (const int line : {-1, 1, 2}) {
     form.ArmyList.ListIndex = line;
-    EXPECT_FALSE(ConfirmArmySelection(state, sample.Host, form));
-    EXPECT_EQ(sample.Host.Heard(), Lines{"Please select one army"});
-    EXPECT_EQ(state.BaseArmyName, "");
+    EXPECT_EQ(ConfirmArmySelection(sample.State, sample.Host, form), line == 2);
+    EXPECT_EQ(sample.State.BaseArmyName, line == 2 ? "Epirus" : "");
   }
-  form.ArmyList.ListIndex = 2;
-  EXPECT_TRUE(ConfirmArmySelection(state, sample.Host, form));
-  EXPECT_EQ(state.BaseArmyName, "Epirus");
-  FillArmySelection(state, sample.Store, form);
-  EXPECT_EQ(state.BaseArmyName, "");
+  EXPECT_EQ(sample.Host.Heard(), Lines(2, "Please select one army"));
+  FillArmySelection(sample.State, sample.Store, form);
+  EXPECT_EQ(sample.State.BaseArmyName, "");
 }
 
 }  // namespace

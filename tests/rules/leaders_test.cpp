@@ -48,12 +48,10 @@ TEST_F(LeaderChoice, TheDialogDefinesLeadersThatNobodyHasChosenYet) {
     UpdateLeaderCost(form);
     return form.leaderCost.Caption;
   };
-  Lines costs;
-  for (int i = 0; i < 8; ++i)
-    costs.push_back(cost(i % 4, i / 4));
-  EXPECT_EQ(costs, (Lines{"40", "70", "100", "120", "0", "0", "0", "150"}));
-  EXPECT_EQ(cost(-1, 0), "150");  // until both lists have a selection
-  EXPECT_EQ(cost(0, -1), "150");
+  EXPECT_EQ((Lines{cost(0, 0), cost(1, 0), cost(2, 0), cost(3, 0)}),
+            (Lines{"40", "70", "100", "120"}));
+  EXPECT_EQ((Lines{cost(0, 1), cost(1, 1), cost(2, 1), cost(3, 1)}), (Lines{"0", "0", "0", "150"}));
+  EXPECT_EQ((Lines{cost(-1, 0), cost(0, -1)}), Lines(2, "150"));  // until both are selected
   EXPECT_EQ(Joined(LeaderCost(7, 0), LeaderCost(8, 1), LeaderCost(3, 1)), "150|0|0");
   for (const int initiative : {-1, 0, 2}) {
     cost(initiative, 1);

@@ -47,27 +47,26 @@ TEST_F(Grid, TheViewsShareTheRows) {
     return Joined(Units.specLabel[k].Visible, Units.ImageName[k].Visible, Units.ViewBtn[k].Visible);
   };
   EXPECT_EQ((Lines{visible(1), visible(2), visible(22)}), (Lines{"1|1|1", "0|0|0", "0|0|0"}));
-  std::string many = "tot_units=24\n";
-  for (int i = 1; i <= 24; ++i)
-    many += RowKey("unit", i) + "=HI,,3,1,,5,9,\n";
-  EXPECT_EQ(SampleState(many).State.Units.Buy[22].Tag, "23");  // more than a view can show
+  for (Int16 r = 1; r <= 24; ++r)
+    State.BaseUnits[r] = ParseIdentity("HI");
+  State.TotUnits = 24;
+  EXPECT_EQ(Rows(0).back(), "23|0");  // more than a view can show
 }
 
 TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
   State.BaseUnits[1].Bought = 3;
   State.BaseUnits[2].Bought = -2;
   ShowSelectUnits(State, Store);
-  const auto line = [this](int k) {
-    return Joined(Units.Buy[k].Text, Units.TypeLabel[k].Caption, Units.ClassLabel[k].Caption,
-                  Units.TQLabel[k].Caption, Units.SizeLabel[k].Caption,
-                  Units.MissileLabel[k].Caption, Units.CostLabel[k].Caption,
-                  Units.MaxLabel[k].Caption, Units.UnitTotalLabel[k].Caption,
-                  Units.specLabel[k].Caption);
+  const auto line = [&u = Units](int k) {
+    return Joined(u.Buy[k].Text, u.TypeLabel[k].Caption, u.ClassLabel[k].Caption,
+                  u.TQLabel[k].Caption, u.SizeLabel[k].Caption, u.MissileLabel[k].Caption,
+                  u.CostLabel[k].Caption, u.MaxLabel[k].Caption, u.UnitTotalLabel[k].Caption,
+                  u.specLabel[k].Caption);
   };
   EXPECT_EQ(line(0), "3|HI|Vet|2.5|4||7|4|21|(+)");
   EXPECT_EQ(line(1), "|SK||3|1|S|5|6|-10|");
-  EXPECT_EQ(Points(State), "100/0");
-  EXPECT_EQ(State.Title, "Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
+  EXPECT_EQ(Joined(Points(State), State.Title),
+            "100/0|Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
   EXPECT_FALSE(State.GridFilling || State.SetupLoading);
 }
 
@@ -79,10 +78,9 @@ TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
   };
   EXPECT_EQ(Units.ImageName[0].Entries,
             (std::vector<ListEntry>{{"Old", 1}, {"Older", 3}, {"Oldest", 6}}));
-  EXPECT_EQ(Units.ImageName[2].Entries.size(), 0U);
-  EXPECT_EQ(Units.ImageName[3].Entries, (std::vector<ListEntry>{{"Javelin", 5}}));
+  EXPECT_EQ(Joined(Units.ImageName[2].Entries.size(), State.BaseUnits[4].ChosenImageIdx), "0|0");
+  EXPECT_EQ(Entries(Units.ImageName[3]), Lines{"Javelin"});
   EXPECT_EQ(chosen(), "Old|Old|1");
-  EXPECT_EQ(State.BaseUnits[4].ChosenImageIdx, 0);
   Units.ImageName[0].ListIndex = 2;
   ImageName_Click(State, 0);
   Rows(1);

