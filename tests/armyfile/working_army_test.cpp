@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/working_army.h"
 
-#include <functional>
-
 #include "support/sample_army.h"
 
 namespace tarnwick {
@@ -31,19 +29,6 @@ TEST_F(AfterALoad, ANewArmyStartsFromTheChosenBaseArmy) {
   EXPECT_EQ(Summary(), "Strict Army||||P|0|CLEAR|100");
   EXPECT_EQ(Shown(Army.Command.LeaderName, 3), "Milo 40 [ 4 / 1 ] |-|-|");
   EXPECT_FALSE(Army.Units.Buy[0].Visible);
-}
-
-TEST_F(AfterALoad, TheArmyIsAPlainValue) {
-  const WorkingArmy before = Work;
-  const std::function<void()> changes[] = {
-      [&] { Army.Command.SpecBuy[3].Tag = "1"; }, [&] { Army.Command.SpecBuy.Load(); },
-      [&] { Field.Terrain.Area[8].Picture = 1; }, [&] { NewArmy("Strict Army"); }};
-  for (const auto& change : changes) {
-    change();
-    EXPECT_FALSE(Work == before);
-    Work = before;
-    EXPECT_TRUE(Work == before);
-  }
 }
 
 TEST_F(AfterALoad, TheModuleMovesTheCatalogsAndLeavesTheArmy) {

@@ -78,21 +78,11 @@ TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
   EXPECT_EQ(Area(2), "CAMP|2|2");
 }
 
-TEST_F(Terrain, FilesHoldAllNineAreas) {
-  Field.AreaTerrain[0] = "SLOPE";
-  Folder.Write("x.army", "[ARMY]\r\nname=x\r\n[terrain]\r\narea2=WOOD\r\n\r\n[SETUP 1]\r\n");
-  Save();
-  EXPECT_EQ(Folder.Read("x.army"),
-            "[ARMY]\r\nname=x\r\n[terrain]\r\narea2=CLEAR\r\narea1=SLOPE\r\narea3=CLEAR\r\n"
-            "area4=CLEAR\r\narea5=CLEAR\r\narea6=CLEAR\r\narea7=CLEAR\r\narea8=CLEAR\r\n"
-            "area9=CLEAR\r\n\r\n[SETUP 1]\r\n");
-
-  Folder.Write("x.army", "[TERRAIN]\narea1=\narea9=CLIFF\n");
-  Load();
-  EXPECT_EQ(Joined(Field.AreaTerrain[0], Field.AreaTerrain[8], Points()), "CLEAR|CLIFF|-150|0");
-  Folder.Write("x.army", "[TERRAIN]\narea1=WOOD\narea2=wood\narea3=WOOD\n");
+TEST_F(Terrain, AnUnknownKindEndsTheLoading) {
+  Folder.Write("x.army", "[TERRAIN]\narea1=\narea2=wood\narea9=CLIFF\n");
   EXPECT_THROW(Load(), SubscriptError);
-  EXPECT_EQ(Joined(Field.AreaTerrain[1], Field.AreaTerrain[2], Points()), "wood|CLEAR|-170|0");
+  EXPECT_EQ(Joined(Field.AreaTerrain[0], Field.AreaTerrain[1], Field.AreaTerrain[8], Points()),
+            "CLEAR|wood|CLEAR|0|0");
 }
 
 }  // namespace

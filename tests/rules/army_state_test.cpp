@@ -15,10 +15,11 @@ TEST(ArmyState, StartsWithTheDesignsTexts) {
   EXPECT_EQ(Shown(state.Units.ViewOption, 3), "Infantry|Mounted|Buy|");
   EXPECT_EQ(Shown(state.Management.modOption, 2), "Velmora|Brakka|");
   EXPECT_TRUE(state.Units.ViewOption[0].Value && state.Management.modOption[0].Value);
-  EXPECT_EQ(Joined(state.Units.TotalCost.Caption, command.LeaderFrame.Caption,
-                   command.LeaderName[0].Caption, command.SpecNameLabel[0].Caption,
-                   command.SpecMaxLabel[0].Caption, command.SpecBuy[0].Tag),
-            "Total: |Leaders |Option1|Card|0|0");
+  EXPECT_EQ(
+      Joined(state.Units.TotalCost.Caption, command.LeaderFrame.Caption,
+             command.LeaderName[0].Caption, command.SpecNameLabel[0].Caption,
+             command.SpecMaxLabel[0].Caption, command.SpecBuy[0].Text, command.SpecBuy[0].Tag),
+      "Total: |Leaders |Option1|Card|0||0");
   EXPECT_FALSE(command.SpecNameLabel[0].Visible || command.SpecCostLabel[0].Visible ||
                command.SpecMaxLabel[0].Visible || command.SpecBuy[0].Visible ||
                state.Units.Buy[22].Visible);

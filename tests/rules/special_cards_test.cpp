@@ -9,24 +9,20 @@ namespace tarnwick {
 namespace {
 
 /// Card row 0 costs 2 (9 at most), row 1 costs 1.5 (4), row 2 has no numbers.
-struct Cards : testing::Test, SampleState {
-  Cards()
-      : SampleState(
-            "command_pts=11\ntot_units=1\nunit1=HI,,3,1,,0,999,\ntot_special=3\nspecial1=RALLY,2,"
-            "9\n"
-            "special2=FLANK,1.5 each,4 of them\nspecial3=COHESION\n") {}
+constexpr std::string_view cardArmy =
+    "command_pts=11\ntot_units=1\nunit1=HI,,3,1,,0,999,\ntot_special=3\nspecial1=RALLY,2,9\n"
+    "special2=FLANK,1.5 each,4 of them\nspecial3=COHESION\n";
 
-  /// Types a quantity into a row and leaves it; what was said comes back, or else what the row
+struct Cards : testing::Test, SampleState {
+  Cards() : SampleState(cardArmy) {}
+
+  /// Types a quantity into a row and leaves it. What was said, if that was refused; what the row
   /// shows, how many cards are paid for, and the command points left.
   std::string Buy(int row, const std::string& text) {
-    Command.SpecBuy[row].Text = text;
-    const bool cancel = SpecBuy_Validate(State, Host, row);
-    const Lines said = Host.Heard();
-    EXPECT_EQ(cancel, !said.empty()) << text;
-    return said.empty() ? Row(row) : said.front();
-  }
-  std::string Row(int row) const {
-    return Joined(Command.SpecBuy[row].Text, Command.SpecBuy[row].Tag, State.CommandPts);
+    TextBox& box = Command.SpecBuy[row];
+    box.Text = text;
+    const std::string refusal = SpecBuy_Validate(State, Host, row) ? Host.Heard().at(0) + ": " : "";
+    return refusal + Joined(box.Text, box.Tag, State.CommandPts);
   }
 };
 
@@ -35,27 +31,24 @@ TEST_F(Cards, AreBoughtAndGivenBackForCommandPoints) {
   EXPECT_EQ(Command.LeaderFrame.Caption, " Leaders (pts left: 5)");
   State.CommandPts = 4;  // exactly what two more cost
   EXPECT_EQ(Buy(0, "5"), "5|5|0");
-  EXPECT_EQ(Buy(0, "9.5"), "Insufficient points left ");  // cut down to the maximum first
-  EXPECT_EQ(Row(0), "9|5|0");
-  EXPECT_EQ(Buy(0, "10.5"), "You can only buy 9 cards");
-  EXPECT_EQ(Row(0), "10.5|5|0");
+  EXPECT_EQ(Buy(0, "9.5"), "Insufficient points left : 9|5|0");  // cut down before the maximum
+  EXPECT_EQ(Buy(0, "10.5"), "You can only buy 9 cards: 10.5|5|0");
   EXPECT_EQ(Buy(0, "none"), "|0|10");
   EXPECT_EQ(Command.LeaderFrame.Caption, " Leaders (pts left: 10)");
   EXPECT_EQ(Buy(0, " 0 "), "0|0|10");  // stays in a box without cards
   EXPECT_EQ(Buy(0, "-1.5"), "-2|-2|14");
   EXPECT_EQ(Buy(0, ""), "|-2|14");  // what gave points is not released
-  EXPECT_EQ(Buy(2, "1"), "You can only buy  cards");
+  EXPECT_EQ(Buy(2, "1"), "You can only buy  cards: 1|0|14");
+  // Prices are rounded to the even neighbour.
+  State.CommandPts = 11;
+  EXPECT_EQ(Buy(1, "1"), "1|1|9");  // 1.5 goes to 2
+  EXPECT_EQ(Buy(1, "3"), "3|3|7");  // 4.5 goes to 4
+  EXPECT_EQ(Buy(1, "5"), "You can only buy 4 of them cards: 5|3|7");
+  EXPECT_EQ(Buy(1, ""), "|0|12");  // 11.5 goes to 12
   Command.SpecBuy[0].Tag = "";
   for (const char* text : {"1", ""})
     EXPECT_THROW(Buy(0, text), TypeMismatchError);
   EXPECT_THROW(Buy(0, "32768"), OverflowError);
-}
-
-TEST_F(Cards, PricesAreRoundedToTheEvenNeighbour) {
-  EXPECT_EQ(Buy(1, "1"), "1|1|9");  // 1.5 goes to 2
-  EXPECT_EQ(Buy(1, "3"), "3|3|7");  // 4.5 goes to 4
-  EXPECT_EQ(Buy(1, "5"), "You can only buy 4 of them cards");
-  EXPECT_EQ(Buy(1, ""), "|0|12");  // 11.5 goes to 12
 }
 
 TEST_F(Cards, TheTitleCountsWhatTheBoxesShow) {

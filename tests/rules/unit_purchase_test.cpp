@@ -8,25 +8,21 @@ namespace tarnwick {
 namespace {
 
 /// Infantry lines: 0 costs 7 (4 at most), 1 costs 30 (90), 2 costs nothing (500), 3 costs 1000.
+constexpr std::string_view purchaseArmy =
+    "points=100\ntot_units=4\nunit1=HI,,3,1,,7,4,\nunit2=MI,,2,1,,30,90,\n"
+    "unit3=SK,,1,1,,0,500,\nunit4=LI,,1,1,,1000,99,\n";
+
 struct Purchase : testing::Test, SampleState {
-  Purchase()
-      : SampleState(
-            "points=100\ntot_units=4\nunit1=HI,,3,1,,7,4,\nunit2=MI,,2,1,,30,90,\n"
-            "unit3=SK,,1,1,,0,500,\nunit4=LI,,1,1,,1000,99,\n") {}
+  Purchase() : SampleState(purchaseArmy) {}
 
-  /// Types a quantity into a line and leaves it; what was said comes back, or else the line.
+  /// Types a quantity into a line and leaves it. What was said, if that was refused; quantity and
+  /// total that the line shows, how many are bought, and the points.
   std::string Buy(int line, const std::string& text) {
-    Units.Buy[line].Text = text;
-    const bool cancel = Buy_Validate(State, Store, Host, line);
-    const Lines said = Host.Heard();
-    EXPECT_EQ(cancel, !said.empty()) << text;
-    return said.empty() ? Line(line) : said.front();
-  }
-
-  /// What the line shows, quantity and total; how many are bought, and the points.
-  std::string Line(int line) const {
-    return Joined(Units.Buy[line].Text, Units.UnitTotalLabel[line].Caption,
-                  State.BaseUnits[line + 1].Bought, Points(State));
+    std::string& shown = Units.Buy[line].Text = text;
+    const std::string refusal =
+        Buy_Validate(State, Store, Host, line) ? Host.Heard().at(0) + ": " : "";
+    return refusal + Joined(shown, Units.UnitTotalLabel[line].Caption,
+                            State.BaseUnits[line + 1].Bought, Points(State));
   }
 };
 
@@ -34,15 +30,17 @@ TEST_F(Purchase, QuantitiesAreCutDownPaidForAndGivenBack) {
   EXPECT_EQ(Buy(0, "  3 units "), "3|21|3|79/21");
   EXPECT_EQ(Units.TotalCost.Caption, "Points left: 79 of 100");
   EXPECT_EQ(Units.TQinfo.Caption, "TQ: 9 (2) - TQ ratio: 3");
-  EXPECT_EQ(Buy(0, "+5.50 units"), "You can only buy 4 units");
-  EXPECT_EQ(Line(0), "5.5|21|3|79/21");
+  EXPECT_EQ(Buy(0, "+5.50 units"), "You can only buy 4 units: 5.5|21|3|79/21");
   EXPECT_EQ(Buy(0, "2.9"), "2|14|2|86/14");
   EXPECT_EQ(Buy(0, "4.5"), "4|28|4|72/28");  // cut down before it meets the maximum
   EXPECT_EQ(Buy(0, " none "), "none|0|0|100/0");
   EXPECT_EQ(Buy(0, "-1.5"), "-2|-14|-2|114/-14");  // nobody refuses it
   EXPECT_EQ(Buy(0, "0.5"), "0|0|0|100/0");         // cut down to a purchase of none
+  State.GridFilling = true;                        // nothing counts while code fills the grid
+  EXPECT_EQ(Buy(0, " 99999 "), " 99999 |0|0|100/0");
+}
 
-  // What is shown counts: what was paid, price and maximum, each as far as it is a number.
+TEST_F(Purchase, WhatTheLineShowsCountsAsFarAsItIsANumber) {
   Buy(0, "3");
   Units.UnitTotalLabel[0].Caption = "10.5 points";  // 10
   EXPECT_EQ(Buy(0, "0.0x"), "0.0x|0|0|89/11");
@@ -52,32 +50,23 @@ TEST_F(Purchase, QuantitiesAreCutDownPaidForAndGivenBack) {
   EXPECT_EQ(Buy(0, "3"), "3|8|3|81/19");  // 7.5
   Units.UnitTotalLabel[0].Caption = "1 or so";
   EXPECT_EQ(Buy(0, "1"), "1|2|1|80/20");  // 2.5
-  EXPECT_EQ(Buy(0, "4"), "You can only buy 3.5 at most units");
+  EXPECT_EQ(Buy(0, "4"), "You can only buy 3.5 at most units: 4|2|1|80/20");
 }
 
 TEST_F(Purchase, RefusalNamesWhatTheRowMayGrowTo) {
+  Units.MaxLabel[0].Caption = "90";
   Buy(0, "3");
   State.PointsLeft = 10;
-  Units.MaxLabel[0].Caption = "90";
-  EXPECT_EQ(Buy(0, "5.7"), "Insufficient points left - max 4");
-  EXPECT_EQ(Line(0), "5|21|3|10/21");
+  EXPECT_EQ(Buy(0, "5.7"), "Insufficient points left - max 4: 5|21|3|10/21");
   EXPECT_EQ(Buy(0, "4"), "4|28|4|3/28");
-  State.PointsLeft = -5;
-  EXPECT_EQ(Buy(1, "1"), "Insufficient points left - max -1");
   State.PointsLeft = 30;
   EXPECT_EQ(Buy(1, "1"), "1|30|1|0/58");  // to the last point
-}
-
-TEST_F(Purchase, WhatLeaves16BitsAndDividingByZeroAreErrors) {
-  State.GridFilling = true;  // nothing counts while code fills the grid
-  EXPECT_EQ(Buy(0, " 99999 "), " 99999 |0|0|100/0");
-  State.GridFilling = false;
+  State.PointsLeft = -65;
+  EXPECT_EQ(Buy(1, "2"), "Insufficient points left - max -2: 2|30|1|-65/58");
   EXPECT_THROW(Buy(0, "32768"), OverflowError);
   EXPECT_THROW(Buy(3, "40"), OverflowError);
-  Buy(2, "300");
-  State.PointsLeft = -1;
-  EXPECT_THROW(Buy(2, "301"), DivisionByZeroError);
-  EXPECT_EQ(Line(2), "301|0|300|-1/0");
+  EXPECT_THROW(Buy(2, "1"), DivisionByZeroError);
+  EXPECT_EQ(Buy(2, "0"), "0|0|0|-65/58");
   Units.Buy[2].Tag = "3 or so";
   EXPECT_THROW(Buy(2, "1"), TypeMismatchError);
 }

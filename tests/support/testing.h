@@ -33,6 +33,17 @@ std::string Joined(const Values&... values) {
   return text.str();
 }
 
+/// What the error says that ends `act`; "" when none does.
+template <typename Act>
+std::string ErrorOf(const Act& act) {
+  try {
+    act();
+    return "";
+  } catch (const RuntimeError& error) {
+    return error.what();
+  }
+}
+
 inline Lines Entries(const ListBox& list) {
   Lines texts;
   for (const ListEntry& entry : list.Entries)
