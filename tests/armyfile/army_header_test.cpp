@@ -9,7 +9,7 @@ namespace {
 
 constexpr int bc = 0, ac = 1;
 
-struct Period : testing::Test, SampleArmy {
+struct HeaderTest : testing::Test, SampleArmy {
   void Enter(const std::string& from, int fromEra, const std::string& to, int toEra) {
     Header.FromData.Text = from;
     Header.ToData.Text = to;
@@ -23,7 +23,7 @@ struct Period : testing::Test, SampleArmy {
   }
 };
 
-TEST_F(Period, EachBoxReportsEveryFailedCheckAndCountsAllTheSame) {
+TEST_F(HeaderTest, EachPeriodBoxReportsEveryFailedCheckAndCountsAllTheSame) {
   const std::string range = "Please insert a numeric value between 3500 and 0";
   const std::string before = "the date must be precedent to ";
   const std::string after = "the date must be successive to ";
@@ -52,10 +52,8 @@ TEST_F(Period, EachBoxReportsEveryFailedCheckAndCountsAllTheSame) {
     EXPECT_EQ(Host.Heard(), c.LeavingTo) << c.To;
     EXPECT_EQ(Header.ArmyPeriod, c.ArmyPeriod);
   }
-}
-
-TEST_F(Period, WhatBeginsAcAlsoEndsAc) {
-  for (const auto click : {FromACBC_Click, toACBC_Click}) {  // whichever button is clicked
+  // What begins AC also ends AC, whichever button is clicked.
+  for (const auto click : {FromACBC_Click, toACBC_Click}) {
     Enter("100", ac, "200", bc);
     click(Header);
     EXPECT_EQ(Joined(Boxes(), Header.ArmyPeriod), "100,200|100,200");
@@ -65,7 +63,7 @@ TEST_F(Period, WhatBeginsAcAlsoEndsAc) {
   }
 }
 
-TEST_F(Period, IsShownInItsBoxes) {
+TEST_F(HeaderTest, APeriodIsShownInItsBoxes) {
   EXPECT_EQ(Joined(Boxes(), Header.FromACBC[bc].Caption, Header.toACBC[ac].Caption), "-,-|BC|AC");
   for (const char* period : {"-500,30", "0,-1", "-12,0"}) {
     Header.ArmyPeriod = period;
@@ -87,9 +85,7 @@ TEST_F(Period, IsShownInItsBoxes) {
   EXPECT_EQ(Boxes(), "-2,7");  // still
 }
 
-struct ArmyHeaderTexts : testing::Test, SampleArmy {};
-
-TEST_F(ArmyHeaderTexts, TypeAndRulesComeFromTheFile) {
+TEST_F(HeaderTest, TypeAndRulesComeFromTheFile) {
   for (const std::string type : {"xPF", "F", "P", "fp"}) {
     TakeArmyType(Header, type);
     EXPECT_EQ(ArmyTypeCode(Header), type == "xPF" ? "FP" : type == "fp" ? "" : type);

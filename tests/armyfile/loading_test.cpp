@@ -88,7 +88,6 @@ TEST_F(Loading, LeadersAreTakenOrMadeAndPaidBeforeTheCards) {
 
 TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
   const std::string notFound = " not found in " + (Folder / "x.army").string();
-  const std::string second = "Unit number 2" + notFound;
   const struct {
     const char *Find, *Replacement;
     std::string Said;
@@ -98,9 +97,8 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
        "The army type [Nobody] is not present in armylist.dat\r\nThis army cannot be edited",
        "0|0|0|0|0|0"},
       {"numunits=3.4", "numunits=4", "Unit number 4" + notFound, "2|1|0|500|36|200"},
-      {"EL,,5,4,", "El,,5,4,", second, "1|0|0|500|4|200"},
-      {"EL,,5,4,", "EL,x,5,4,", second, "1|0|0|500|4|200"},
-      {"EL,,5,4,", "EL,,5,4,J", second, "1|0|0|500|4|200"},
+      {"EL,,5,4,", "El,,5,4,", "Unit number 2" + notFound, "1|0|0|500|4|200"},
+      {"EL,,5,4,", "EL,,5,4,J", "Unit number 2" + notFound, "1|0|0|500|4|200"},
       {"el.svg", "El.svg", "No image match for unit 2 (pictures/El.svg)", "1|1|0|500|32|200"}};
   for (const auto& [find, replacement, said, bought] : faults) {
     SCOPED_TRACE(said);
@@ -117,10 +115,8 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
   EXPECT_EQ(Joined(Field.AreaTerrain[1], Bought(), Header.FromData.Text), "slope|2|1|0|464|36|50|");
   EXPECT_THROW(Load("-500,30", "-500"), TypeMismatchError);
   EXPECT_TRUE(Field.Setup.setupList.Entries.empty());
-  for (const char* count : {"=0 ", "=-1 ", "=some "}) {
-    Load("=3.4 ", count);
-    EXPECT_EQ(Bought(), "0|0|0|470|0|45") << count;
-  }
+  Load("=3.4 ", "=-1 ");
+  EXPECT_EQ(Bought(), "0|0|0|470|0|45");
   std::string full = "[Sample Army]\ntot_units=200\n";  // no row is left for the search to end on
   for (int i = 1; i <= 200; ++i)
     full += RowKey("unit", i) + "=MI,,3,1,,5,9,\n";
@@ -132,11 +128,8 @@ TEST_F(Loading, AFaultIsReportedAndWhatWasAppliedStays) {
 }
 
 TEST_F(Loading, TheSecondModuleLosesTerrainAndSetups) {
-  Folder.Write("brakka/x.army", file);
   Folder.Write("x.army", "[ARMY]\nimages=more.dat\n");
   ChooseModule(1);
-  Desk::Load("x");
-  EXPECT_EQ(Host.Heard(), Lines{"No image match for unit 1 (pictures/sk two.svg)"});
   Folder.Write("brakka/x.army", ReplaceText("two.svg", "one.svg", file));
   Desk::Load("x");
   EXPECT_EQ(Field.AreaTerrain[1], "SLOPE");  // the file has it, though no save puts it there

@@ -17,12 +17,10 @@ struct Terrain : testing::Test {
     return Points();
   }
   std::string Points() const { return Joined(State.PointsLeft, State.CommandPts); }
-  void Save() {
-    PendingFiles files;
-    SaveTerrain(Field, files, Folder / "x.army");
-    files.Replace(Store.Files);
+  void Load(const std::string& areas) {
+    Folder.Write("x.army", "[TERRAIN]\n" + areas);
+    LoadTerrain(Field, State, Store.Files, Folder / "x.army");
   }
-  void Load() { LoadTerrain(Field, State, Store.Files, Folder / "x.army"); }
   /// What lies on an area, and how it is shown.
   std::string Area(int area) const {
     const PictureBox& box = Field.Terrain.Area[area];
@@ -40,10 +38,8 @@ TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
   const char* const prices[] = {"0|0", "-30|-5", "-60|-10", "-20|0", "-50|-15", "-150|0"};
   const char* const names[] = {"CLEAR", "SLOPE", "CAMP", "WOOD", "MOUNTAIN", "CLIFF"};
   for (int kind = 0; kind <= 5; ++kind) {
-    Field.AreaTerrain[0] = names[kind];
-    Save();
     State.PointsLeft = State.CommandPts = 0;
-    Load();  // charges even below zero
+    Load(std::string("area1=") + names[kind]);  // charges even below zero
     EXPECT_EQ(Points(), prices[kind]) << names[kind];
   }
   State.PointsLeft = 150;
@@ -79,8 +75,7 @@ TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
 }
 
 TEST_F(Terrain, AnUnknownKindEndsTheLoading) {
-  Folder.Write("x.army", "[TERRAIN]\narea1=\narea2=wood\narea9=CLIFF\n");
-  EXPECT_THROW(Load(), SubscriptError);
+  EXPECT_THROW(Load("area1=\narea2=wood\narea9=CLIFF\n"), SubscriptError);
   EXPECT_EQ(Joined(Field.AreaTerrain[0], Field.AreaTerrain[1], Field.AreaTerrain[8], Points()),
             "CLEAR|wood|CLEAR|0|0");
 }
