@@ -16,43 +16,36 @@ std::string Rows(const std::string& total, const char* word, int count, const st
 }
 
 /// Army points of the base army, left and spent, command points; units, limits, leaders, cards.
-std::string Summary(const ArmyState& state) {
-  return Joined(state.ArmyPoints, Points(state), state.CommandPts, state.TotUnits, state.TotLimits,
-                state.LeaderCount, state.TotSpecial);
+std::string Summary(const SampleState& sample) {
+  const ArmyState& state = sample.State;
+  return Joined(state.ArmyPoints, sample.Points(), state.CommandPts, state.TotUnits,
+                state.TotLimits, state.LeaderCount, state.TotSpecial);
 }
 
 TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
-  SampleState sample(
-      "points=400 or so\ncommand_pts=250\n"
-      "tot_units=2\nunit1=HI,Vet,2.5,4, J ,16.5,8,Line\nunit2=SK,,3,1,,4, 7\n" +
-      Rows("tot_leader", "leader", 7, "Milo,x,2,0") +
-      "tot_limits=7\nlimit1=HI+MI,4\nlimit2=CO,2,Vet\nlimit3=HI+MI+BI,3 at least\n"
-      "limit4=LI+SK,1,Yth\nlimit5=EL\nlimit6=LN,6\nlimit7=LG,7\n"
-      "[Other]\npoints=70\ntot_units=1\nunit1=MI,,3,1,,5,9,\n"
-      "tot_limits=1\nlimit1=MI,1\ntot_leader=3\nleader1=Cato,5,1,20\nleader3=Late,5,1,20\n");
+  SampleState sample("Full");
   ArmyState& state = sample.State;
   const UnitsPanel& units = sample.Units;
-  EXPECT_EQ(Summary(state), "400|400/0|250|2|7|7|0");
-  EXPECT_EQ(state.Management.ArmyName.Text, "Sample");
-  EXPECT_EQ(units.TotalCost.Caption, "Points left: 400 of 400");
+  EXPECT_EQ(Summary(sample), "400|400/0|250|2|7|7|0");
+  EXPECT_EQ(Joined(state.Management.ArmyName.Text, units.TotalCost.Caption),
+            "Full|Points left: 400 of 400");
   UnitRec& unit = state.BaseUnits[1];
   EXPECT_EQ(Joined(IdentityText(unit), unit.Cost, unit.MaxCount, unit.SpecialsKey),
             "HI,Vet,2.5,4, J |16|8|Line");  // halves to the even
-  EXPECT_EQ(Shown(sample.Command.LeaderName, 1), "Milo 0 [ x / 2 ] |");
+  EXPECT_EQ(Shown(sample.Command.LeaderName, 1), "Ana 0 [ x / 2 ] |");
   EXPECT_EQ(Shown(units.TypeLimit, 7), "HI+MI|CO[Vet]|HI+MI+BI|LI[Yth]|EL|LN|LG|");
   EXPECT_EQ(Shown(units.MinLimit, 7), "4|2|3|1|0|6|7|");
-  const auto limit = [&](int i) {
-    return Joined(units.TypeLimit[i - 1].Tag, state.Limits[i].TypeA, state.Limits[i].TypeB);
-  };
-  EXPECT_EQ((Lines{limit(1), limit(3), limit(4), limit(5)}),
-            (Lines{"1|HI|MI", "3|HI|MI+BI", "4|LI|SK", "5|EL|"}));
+  const LimitRec &two = state.Limits[4], &three = state.Limits[3], &one = state.Limits[5];
+  EXPECT_EQ(Joined(two.TypeA, two.TypeB, three.TypeA, three.TypeB, one.TypeA, one.TypeB),
+            "LI|SK|HI|MI+BI|EL|");
+  EXPECT_EQ(Joined(units.TypeLimit[0].Tag, units.TypeLimit[6].Tag), "1|7");
 
   state.Management.ArmyName.Text = "Mine";
   unit.Bought = state.PointsSpent = 15;
   state.SelectedLeader = 0;
   TickOption(sample.Command.LeaderName, 0);
-  sample.Load("Other");
-  EXPECT_EQ(Summary(state), "70|70/0|0|1|1|3|0");
+  sample.Load("Small");
+  EXPECT_EQ(Summary(sample), "70|70/0|0|1|1|3|0");
   EXPECT_EQ(state.Management.ArmyName.Text, "Mine");
   EXPECT_EQ(Joined(unit.UnitType, unit.Bought, state.BaseUnits[2].UnitType), "MI|0|");
   EXPECT_EQ(Shown(units.TypeLimit, 7), "MI|-|-|-|-|-|-|");
@@ -60,16 +53,14 @@ TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
   // A missing leader's button and those behind it stay as they were; the count hides the rest.
   EXPECT_EQ(sample.Host.Heard(), Lines{"Leader # 2 not present"});
   EXPECT_EQ(Shown(sample.Command.LeaderName, 7),
-            "Cato 20 [ 5 / 1 ] |Milo 0 [ x / 2 ] |Milo 0 [ x / 2 ] |-|-|-|-|");
+            "Cato 20 [ 5 / 1 ] |Bel 40 [ 4 / 1 ] |Cyr 40 [ 4 / 1 ] |-|-|-|-|");
   EXPECT_EQ(Joined(state.SelectedLeader, sample.Command.LeaderName[0].Value), "-1|0");
 }
 
 TEST(LoadBaseArmy, AMissingUnitLeavesNone) {
-  SampleState sample(
-      "points=100\ntot_units=3\nunit1=HI,,3,1,,5,9,\nunit3=HI,,3,1,,5,9,\n"
-      "tot_limits=2\nlimit2=HI,1\ntot_special=2\nspecial2=RALLY,8,4\n");
+  SampleState sample("Gaps");
   EXPECT_EQ(sample.Host.Heard(), Lines{"Army unit 2 not found"});
-  EXPECT_EQ(Summary(sample.State), "100|100/0|0|0|2|0|2");
+  EXPECT_EQ(Summary(sample), "100|100/0|0|0|2|0|2");
   EXPECT_EQ(Shown(sample.Units.MinLimit, 3), "0|1|-|");  // limits and cards miss rows silently
   EXPECT_EQ(Shown(sample.Command.SpecNameLabel, 2), "|RALLY|");
   EXPECT_EQ(Shown(sample.Units.TypeLabel, 1), "-|");
@@ -84,34 +75,28 @@ TEST(LoadBaseArmy, ARowThatBreaksTheRulesEndsItQuietly) {
       {two + "HI,,3,1,,5,many,", "70|70/0|9|1|0|0|0"},
       {two + "HI,,3,1,,5,9,\ntot_limits=-1\ntot_leader=-1\ntot_special=-1", "70|70/0|9|2|0|0|0"},
       // What comes behind the fault stays as the army before had it.
-      {"tot_units=1\nunit1=HI,,3,1,,5,9,\npoints=70000", "100|100/0|50|0|0|0|0"},
-      {two + "\ntot_special=70000", "100|100/0|50|0|0|0|1"},
-      {good + Rows("tot_limits", "limit", 8, "LI,1"), "100|100/0|50|0|7|0|1"},
-      {good + "tot_limits=2\nlimit1=LI,1\nlimit2=LI,70000", "100|100/0|50|0|1|0|1"},
-      {good + Rows("tot_leader", "leader", 8, "Milo,5,1,20"), "100|100/0|50|0|0|8|1"},
-      {good + "tot_leader=1\nleader1=Cato,5,,20", "100|100/0|50|0|0|1|1"},
-      {good + "tot_leader=1\nleader1=Cato,5,1,20 points", "100|100/0|50|0|0|1|1"}};
+      {"tot_units=1\nunit1=HI,,3,1,,5,9,\npoints=70000", "400|400/0|250|0|0|0|0"},
+      {two + "\ntot_special=70000", "400|400/0|250|0|0|0|0"},
+      {good + Rows("tot_limits", "limit", 8, "LI,1"), "400|400/0|250|0|7|0|0"},
+      {good + "tot_limits=2\nlimit1=LI,1\nlimit2=LI,70000", "400|400/0|250|0|1|0|0"},
+      {good + Rows("tot_leader", "leader", 8, "Milo,5,1,20"), "400|400/0|250|0|0|8|0"},
+      {good + "tot_leader=1\nleader1=Cato,5,,20", "400|400/0|250|0|0|1|0"},
+      {good + "tot_leader=1\nleader1=Cato,5,1,20 points", "400|400/0|250|0|0|1|0"}};
   for (const auto& [army, summary] : cases) {
     SCOPED_TRACE(army.substr(0, 200));
-    SampleState sample("points=100\ncommand_pts=50\n" +
-                       Rows("tot_units", "unit", 3, "HI,,3,1,,5,9,") +
-                       Rows("tot_limits", "limit", 5, "HI,1") +
-                       "tot_special=1\nspecial1=RALLY,1,1\n[More]\n" + army + "\n");
+    SampleState sample("Full");
     sample.State.PointsSpent = 5;
-    sample.Load("More");
+    sample.Folder.Write("armylist.dat", "[Broken]\n" + army + "\n");
+    sample.Load("Broken");
     EXPECT_EQ(sample.Host.Heard(), Lines{});
-    EXPECT_EQ(Summary(sample.State), summary);
+    EXPECT_EQ(Summary(sample), summary);
     EXPECT_EQ(sample.Units.TypeLimit[0].Visible, sample.State.TotLimits > 0);
     EXPECT_EQ(sample.Units.Buy[0].Visible, sample.State.TotUnits > 0);
   }
 }
 
 TEST(LoadSpecials, TheFirstArmyMakesFourRowsAndLaterOnesLabelTheirs) {
-  SampleState sample(
-      "tot_special=2\nspecial1=RALLY,8,4\nspecial2=FLANK,x,y\n"
-      "[One]\ntot_special=1\nspecial1=MISSILE,6,3\n"
-      "[Six]\ntot_special=6\nspecial1=A,1,1\nspecial2=B,2,1\nspecial3=C,3,1\nspecial4=D,4,1\n"
-      "special5=E,5,1\nspecial6=F,6,1\n");
+  SampleState sample("Two Cards");
   CommandPanel& panel = sample.Command;
   const auto row = [&](int j) {
     return Joined(panel.SpecBuy[j].Text, panel.SpecBuy[j].Tag, panel.SpecBuy[j].Visible);
@@ -120,14 +105,14 @@ TEST(LoadSpecials, TheFirstArmyMakesFourRowsAndLaterOnesLabelTheirs) {
   EXPECT_EQ(Shown(panel.SpecNameLabel, 4), "RALLY|FLANK|-|-|");
   EXPECT_EQ(Shown(panel.SpecCostLabel, 4), "8|x|8|8|");  // can be seen without a name
   EXPECT_EQ(Shown(panel.SpecMaxLabel, 4), "4|y|4|4|");
-  EXPECT_EQ((Lines{row(0), row(3)}), (Lines{"|0|1", "|0|1"}));
+  EXPECT_EQ((Lines{row(0), row(3)}), Lines(2, "|0|1"));
 
   for (const int j : {0, 1})
     panel.SpecBuy[j].Text = panel.SpecBuy[j].Tag = "3";
-  sample.Load("One");
+  sample.Load("One Card");
   EXPECT_EQ(Shown(panel.SpecNameLabel, 4), "MISSILE|FLANK|-|-|");
   EXPECT_EQ((Lines{row(0), row(1)}), (Lines{"|0|1", "3|3|1"}));
-  sample.Load("Six");
+  sample.Load("Six Cards");
   ASSERT_EQ(panel.SpecBuy.Count(), 6);
   EXPECT_EQ(Shown(panel.SpecNameLabel, 6), "A|B|-|-|E|F|");
   EXPECT_EQ(Shown(panel.SpecMaxLabel, 6), "1|1|1|1|1|1|");

@@ -8,19 +8,18 @@ namespace tarnwick {
 namespace {
 
 TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
-  SampleState sample("[Armies]\ntotal=3\nname1=Gaul\nname3=Epirus\nname4=Too many\n");
+  SampleState sample("Cards");
   ArmySelectionForm form;
   form.ArmyList.AddItem("left over");
   FillArmySelection(sample.State, sample.Store, form);
-  EXPECT_EQ(Entries(form.ArmyList), (Lines{"Gaul", "", "Epirus"}));
+  EXPECT_EQ(sample.State.BaseArmyName, "");
+  EXPECT_EQ(Entries(form.ArmyList), (Lines{"Cards", "", "Grid"}));
   for (const int line : {-1, 1, 2}) {
     form.ArmyList.ListIndex = line;
     EXPECT_EQ(ConfirmArmySelection(sample.State, sample.Host, form), line == 2);
-    EXPECT_EQ(sample.State.BaseArmyName, line == 2 ? "Epirus" : "");
+    EXPECT_EQ(sample.State.BaseArmyName, line == 2 ? "Grid" : "");
   }
   EXPECT_EQ(sample.Host.Heard(), Lines(2, "Please select one army"));
-  FillArmySelection(sample.State, sample.Store, form);
-  EXPECT_EQ(sample.State.BaseArmyName, "");
 }
 
 }  // namespace

@@ -7,12 +7,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view leaderArmy =
-    "command_pts=160\ntot_leader=3\nleader1=Arcas,7,2,150\nleader2=Milo,4,1,40\n"
-    "leader3=Dear,7,1,161\n";
-
 struct LeaderChoice : testing::Test, SampleState {
-  LeaderChoice() : SampleState(leaderArmy) {}
+  LeaderChoice() : SampleState("Leaders") {}
 
   /// The chosen leader, the ticked options and the command points left.
   std::string Choice() const {

@@ -9,12 +9,8 @@ namespace tarnwick {
 namespace {
 
 /// Card row 0 costs 2 (9 at most), row 1 costs 1.5 (4), row 2 has no numbers.
-constexpr std::string_view cardArmy =
-    "command_pts=11\ntot_units=1\nunit1=HI,,3,1,,0,999,\ntot_special=3\nspecial1=RALLY,2,9\n"
-    "special2=FLANK,1.5 each,4 of them\nspecial3=COHESION\n";
-
 struct Cards : testing::Test, SampleState {
-  Cards() : SampleState(cardArmy) {}
+  Cards() : SampleState("Cards") {}
 
   /// Types a quantity into a row and leaves it. What was said, if that was refused; what the row
   /// shows, how many cards are paid for, and the command points left.

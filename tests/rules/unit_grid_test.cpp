@@ -8,21 +8,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* gridArmy =
-    "points=100\ntot_units=6\n"
-    "unit1=HI,Vet,2.5,4,,7,4,Line\nunit2=SK,,3,1,S,5,6,\nunit3=EL,,5,4,,28,2,\n"
-    "unit4=LM,,5,4,,28,2,Ogre\nunit5=LM,,5,4,,30,2,Wyvern\nunit6=HI,,3,4,J,9,3,\n";
-constexpr const char* gridImages =
-    "[IMAGES]\ntotal=6\nimage1=v1.svg,HI,Vet,,Old\nimage2=h.svg,HI,,,Plain\n"
-    "image3=v2.svg,HI,Vet,,Older\nimage4=s.svg,SK,,S,Sling\nimage5=hj.svg,HI,,J,Javelin\n"
-    "image6=v3.svg,HI,Vet,,Oldest\n";
-
 struct Grid : testing::Test, SampleState {
-  Grid() : SampleState(gridArmy, gridImages) {
-    Folder.Write("specials.dat",
-                 "[Wyvern]\nspecial=MOUNTED\n[Ogre]\nspecial=BIG\n[SPECIALS]\nBIG=Big\n");
-    Rows(0);
-  }
+  Grid() : SampleState("Grid") {}
 
   /// The rows that a view shows, in their order, with their colours.
   Lines Rows(int view) {
@@ -65,7 +52,7 @@ TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
   };
   EXPECT_EQ(line(0), "3|HI|Vet|2.5|4||7|4|21|(+)");
   EXPECT_EQ(line(1), "|SK||3|1|S|5|6|-10|");
-  EXPECT_EQ(Joined(Points(State), State.Title),
+  EXPECT_EQ(Joined(Points(), State.Title),
             "100/0|Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
   EXPECT_FALSE(State.GridFilling || State.SetupLoading);
 }

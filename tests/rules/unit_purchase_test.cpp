@@ -8,12 +8,8 @@ namespace tarnwick {
 namespace {
 
 /// Infantry lines: 0 costs 7 (4 at most), 1 costs 30 (90), 2 costs nothing (500), 3 costs 1000.
-constexpr std::string_view purchaseArmy =
-    "points=100\ntot_units=4\nunit1=HI,,3,1,,7,4,\nunit2=MI,,2,1,,30,90,\n"
-    "unit3=SK,,1,1,,0,500,\nunit4=LI,,1,1,,1000,99,\n";
-
 struct Purchase : testing::Test, SampleState {
-  Purchase() : SampleState(purchaseArmy) {}
+  Purchase() : SampleState("Purchase") {}
 
   /// Types a quantity into a line and leaves it. What was said, if that was refused; quantity and
   /// total that the line shows, how many are bought, and the points.
@@ -22,7 +18,7 @@ struct Purchase : testing::Test, SampleState {
     const std::string refusal =
         Buy_Validate(State, Store, Host, line) ? Host.Heard().at(0) + ": " : "";
     return refusal + Joined(shown, Units.UnitTotalLabel[line].Caption,
-                            State.BaseUnits[line + 1].Bought, Points(State));
+                            State.BaseUnits[line + 1].Bought, Points());
   }
 };
 
@@ -72,9 +68,6 @@ TEST_F(Purchase, RefusalNamesWhatTheRowMayGrowTo) {
 }
 
 TEST_F(Purchase, AfterAResetCountsForWhatTheLinesShow) {
-  Folder.Write("armylist.dat",
-               "[Twins]\npoints=100\ntot_units=5\nunit1=HI,,3,1,,9,4,A\nunit2=HI,,3,1,,7,4,A\n"
-               "unit3=MI,,2,1,,5,9,\nunit4=HI,,3,1,,7,4,B\nunit5=HI,,3,1,,7,4,\n");
   Load("Twins");
   for (const int shown : {2, 3, 4, 5})
     State.BaseUnits[shown].Bought = 1;
@@ -88,7 +81,7 @@ TEST_F(Purchase, AfterAResetCountsForWhatTheLinesShow) {
     Units.Buy[line].Text = text;
     EXPECT_EQ(Buy_Validate(State, Store, Host, line), std::string(text) == "5");
     const auto bought = [this](int row) { return State.BaseUnits[row].Bought; };
-    return Joined(bought(1), bought(2), bought(3), bought(4), bought(5), Points(State));
+    return Joined(bought(1), bought(2), bought(3), bought(4), bought(5), Points());
   };
   EXPECT_EQ(buy(0, ""), "0|0|0|0|0|100/0");
   EXPECT_EQ(buy(2, "5"), "0|0|0|0|0|100/0");

@@ -26,17 +26,16 @@ TEST(UnitTypeCode, SomeTypesAreSplitByClass) {
 }
 
 TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
-  SampleState sample("tot_units=2\nunit1=LM,,3,1,,5,9,Wyvern\nunit2=LM,,3,1,,5,9,Ogre\n");
-  sample.Folder.Write("specials.dat", "[Wyvern]\nspecial=FLY+MOUNTED\n[Ogre]\nspecial=BIG\n");
+  SampleState sample("Grid");  // its fourth row is an ogre, its fifth a wyvern
   const auto kind = [&](const char* type, int row) {
     return MountedKind(sample.State, sample.Store, type, row);
   };
   for (const char* type : {"HC", "RC", "BC", "LN", "EL", "LC", "CH", "GC", "KB"})
-    EXPECT_EQ(kind(type, 2), mounted) << type;
+    EXPECT_EQ(kind(type, 4), mounted) << type;
   for (const char* type : {"SM", "LM"})
-    EXPECT_EQ(Joined(kind(type, 1), kind(type, 2), kind(type, -1)), Joined(mounted, foot, foot));
-  EXPECT_EQ(kind("HI", 1), foot);
-  EXPECT_EQ(kind("SK", 1), skirmishers);
+    EXPECT_EQ(Joined(kind(type, 5), kind(type, 4), kind(type, -1)), Joined(mounted, foot, foot));
+  EXPECT_EQ(kind("HI", 5), foot);
+  EXPECT_EQ(kind("SK", 5), skirmishers);
 }
 
 }  // namespace

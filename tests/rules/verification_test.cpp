@@ -13,10 +13,11 @@ namespace {
 /// class Vet, 6 HC, 7 LM, 8 CO without a class.
 std::string Verify(const std::string& limits, const std::map<int, int>& bought) {
   SampleState sample(
-      "tot_units=8\nunit1=LI,,3,1,,5,9,\nunit2=LP,,3,1,,5,9,\nunit3=HI,,3,1,,5,9,\n"
+      "Sample",
+      "[Sample]\ntot_units=8\nunit1=LI,,3,1,,5,9,\nunit2=LP,,3,1,,5,9,\nunit3=HI,,3,1,,5,9,\n"
       "unit4=HI,x,3,1,,5,9,\nunit5=CO,Vet,3,1,,5,9,\nunit6=HC,,3,1,,5,9,\n"
       "unit7=LM,,3,1,,5,9,\nunit8=CO,,3,1,,5,9,\ntot_limits=" +
-      limits);
+          limits);
   for (const auto& [row, count] : bought)
     sample.State.BaseUnits[row].Bought = count;
   EXPECT_FALSE(VerifyArmy(sample.State, sample.Host, false));
@@ -58,7 +59,8 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
 
 TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
   SampleState sample(
-      "tot_limits=2\nlimit1=HI,1\nlimit2=HC,1\ntot_units=2\nunit1=SM,,3,1,,5,9,\n"
+      "Sample",
+      "[Sample]\ntot_limits=2\nlimit1=HI,1\nlimit2=HC,1\ntot_units=2\nunit1=SM,,3,1,,5,9,\n"
       "unit2=HC,,3,1,,5,9,\n");
   ArmyState& state = sample.State;
   state.Units.TypeLimit[0].Tag = "2";

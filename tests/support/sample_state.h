@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <string_view>
-
-#include "base/numbers.h"
 #include "rules/army_state.h"
 #include "rules/base_army_loading.h"
 #include "rules/unit_grid.h"
@@ -14,21 +10,27 @@
 
 namespace tarnwick {
 
-/// A started editor in a folder of its own, with the base army "Sample" loaded.
+/// A started editor with a base army loaded, in a folder of its own with the catalogs of the
+/// tests' data.
 struct SampleState {
-  /// `army` holds the lines of the army's section; more sections may follow in it.
-  explicit SampleState(std::string_view army, std::string_view images = "") {
-    Folder.Write("armylist.dat", std::string("[Sample]\n").append(army));
-    Folder.Write("images.dat", images);
+  /// `catalog` takes the place of the army catalog when there is one.
+  explicit SampleState(const std::string& army, const std::string& catalog = "") {
+    Folder.Copy(TEST_DATA "/rules");
+    if (!catalog.empty()) Folder.Write("armylist.dat", catalog);
     InitializeVariables(State, Store);
     LoadImages(State.Catalog, Store, false, "");
-    Load("Sample");
+    Load(army);
   }
 
   void Load(const std::string& army) {
     State.BaseArmyName = army;
     LoadBaseArmy(State, Store, Host);
     ShowSelectUnits(State, Store);
+  }
+
+  /// "left/spent" of the army points.
+  std::string Points() const {
+    return Joined(State.PointsLeft) + "/" + Joined(State.PointsSpent);
   }
 
   TempFolder Folder;
@@ -38,10 +40,5 @@ struct SampleState {
   UnitsPanel& Units = State.Units;
   CommandPanel& Command = State.Command;
 };
-
-/// "left/spent" of the army points.
-inline std::string Points(const ArmyState& state) {
-  return NumberText(state.PointsLeft) + "/" + NumberText(state.PointsSpent);
-}
 
 }  // namespace tarnwick
