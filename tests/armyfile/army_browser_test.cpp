@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "base/text.h"
 #include "support/sample_army.h"
 
 namespace tarnwick {
@@ -29,16 +30,16 @@ struct ArmyBrowser : testing::Test, SampleArmy {
 };
 
 TEST_F(ArmyBrowser, ListsAndDescribesArmyFiles) {
+  const std::string file = TempFolder::ReadBytes(TEST_DATA "/armies/saved.army");
   for (const char* name : {"Zama.army", "alesia.army", "\xC3\x89lan.army", "b.army", "c.ARMY",
                            "d.army.new", "brakka\\e.army", "brakka/troll.army", "folder.army/x"}) {
-    Folder.Write(name, TempFolder::ReadBytes(TEST_DATA "/armies/saved.army"));
+    Folder.Write(name, ReplaceText("TQ=11", "TQ=", ReplaceText("e=30", "e=30 %", file)));
   }
   EXPECT_EQ(Select("b"), (Lines{"alesia", "b", "Zama", "\xC9lan"}));
   const std::string detail =
       "\n\rName: Tyre in arms\n\rBase: Sample Army\n\rUnits: 3\n\rRoute %: 30\n\rPoints: 28\n\r"
-      "TQ points: 11\n\rRally cards: 2\n\rFlank cards: 3\n\rLeader: Arcas of Tyre\n\r  command: "
-      "2\n\r"
-      "  initiative: 7";
+      "TQ points: 0\n\rRally cards: 2\n\rFlank cards: 3\n\rLeader: Arcas of Tyre\n\r"
+      "  command: 2\n\r  initiative: 7";
   EXPECT_EQ(Form.ArmyDetailLabel.Caption, detail);
   EXPECT_EQ(Choose(), "b");
   Army.BrakkaMode = true;
