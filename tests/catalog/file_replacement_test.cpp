@@ -3,6 +3,7 @@
 #include "catalog/file_replacement.h"
 
 #include <filesystem>
+#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -17,21 +18,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(ReplaceFile, KeepsLinksAndPermissions) {
+TEST(ReplaceFile, KeepsLinksAndPermissionsAndNothingOpen) {
   const TempFolder folder;
-  const std::string longest = std::string(250, 'a') + ".army";
-  folder.Write("elsewhere/" + longest, "old and longer than the new one");
-  fs::create_symlink("elsewhere/" + longest, folder / "a.army");
+  const std::string longest = std::string(250, 'a') + ".army", target = "elsewhere/" + longest;
+  folder.Write(target, "old and longer than the new one");
+  fs::create_symlink(target, folder / "a.army");
   constexpr auto mode = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_write;
-  fs::permissions(folder / ("elsewhere/" + longest), mode);
+  fs::permissions(folder / target, mode);
+  const auto openFiles = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+  };
+  const auto before = openFiles();
   ReplaceFile(folder / "a.army", "new", Durability::Lasting);
-  EXPECT_EQ(folder.Read("elsewhere/" + longest), "new");
-  EXPECT_EQ(fs::status(folder / ("elsewhere/" + longest)).permissions(), mode);
+  EXPECT_EQ(openFiles(), before);
+  EXPECT_EQ(folder.Read(target), "new");
+  EXPECT_EQ(fs::status(folder / target).permissions(), mode);
   EXPECT_TRUE(fs::is_symlink(folder / "a.army"));
   EXPECT_EQ(folder.Files("elsewhere"), Lines{longest});
 }
 
-TEST(ReplaceFile, AFailureLeavesTheTarget) {
+TEST(ReplaceFile, AFailureLeavesTheTargetAndNamesIt) {
   const TempFolder folder;
   folder.Write("a.army", "old");
   for (const std::size_t size : {1U, 1000000U}) {
@@ -41,20 +47,25 @@ TEST(ReplaceFile, AFailureLeavesTheTarget) {
   }
   EXPECT_EQ(folder.Read("a.army"), "old");
   EXPECT_EQ(folder.Files(), Lines{"a.army"});
-  EXPECT_THROW(ReplaceFile(folder / "none/a.army", "x", Durability::Lasting), FileError);
+  try {
+    ReplaceFile(folder / "none/a", "x", Durability::Lasting);
+    FAIL();
+  } catch (const FileError& error) {
+    EXPECT_EQ(error.what(), "File " + (folder / "none/a").string() +
+                                " cannot be written: No such file or directory");
+  }
 }
 
 TEST(ReplaceFile, ClearsAwayWhatDeadProcessesLeft) {
   const TempFolder folder;
   const std::string dead = ".tarnwick-0009999999.new";  // systems count to a few millions
-  const Lines others = {".tarnwick-0000000001.new",      ".tarnwick-0009999998.new",
-                        ".tarnwick-0009999999.new.army", ".tarnwick-9999999.new",
-                        ".tarnwick-99999999999.new",     "tarnwick-0009999999.new"};
-  fs::create_directory(folder / others[1]);
-  for (const std::string& name : others) {
-    if (name != others[1]) folder.Write(name, "");
-  }
+  const Lines others = {".tarnwick-0000000001.new", ".tarnwick-0009999999.new.army",
+                        ".tarnwick-9999999.new",    ".tarnwick-99999999999.new",
+                        "tarnwick-0009999999.new",  "a"};
+  for (const std::string& name : others)
+    folder.Write(name, "");
   folder.Write(dead, "");
+  fs::create_directory(folder / ".tarnwick-0009999998.new");
   ReplaceFile(folder / "a", "", Durability::Scratch);
   EXPECT_TRUE(folder.Has(dead));
   ReplaceFile(folder / "a", "", Durability::Lasting);
