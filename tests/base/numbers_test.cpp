@@ -5,6 +5,8 @@
 #include <limits>
 #include <map>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -16,9 +18,8 @@ namespace tarnwick {
 namespace {
 
 TEST(Int16, ResultsReachBothEndsAndNoFurther) {
-  Int16 top = Int16(32766) + 1;
-  Int16 bottom = Int16(256) * -128;
-  EXPECT_EQ(top, 32767);
+  Int16 top = Int16() + 32766, bottom = Int16(256) * -128;
+  EXPECT_EQ(++top, 32767);
   EXPECT_EQ(bottom, -32768);
   EXPECT_THROW(Int16(32768), OverflowError);
   EXPECT_THROW(Int16(-32769), OverflowError);
@@ -34,20 +35,34 @@ TEST(Table, HoldsItsRowsAndNoOthers) {
   Table<int, 1, 3> table;
   for (int i = 1; i <= 3; ++i)
     table[i] = i * 10;
+  EXPECT_EQ(table.end() - table.begin(), 3);
   const auto& constant = table;
-  EXPECT_EQ(constant[1] + constant[3], 40);
+  EXPECT_EQ(constant[1], 10);
+  EXPECT_EQ(constant[3], 30);
   for (const int outside : {0, 4, -1, 32767, -32768}) {
     EXPECT_THROW(table[outside], SubscriptError) << outside;
     EXPECT_THROW(constant[outside], SubscriptError) << outside;
   }
-  ControlArray<int> controls;
+}
+
+TEST(ControlArray, GrowsByCopiesOfItsFirstElementAndMovesNone) {
+  ControlArray<int> controls, other;
   controls[0] = 5;
   controls.Load();
-  controls[1] = 6;
+  EXPECT_EQ(std::exchange(controls[1], 6), 5);
+  other = controls;
   controls.Load();
-  EXPECT_EQ(controls[2], 5);  // a copy of element 0
+  EXPECT_FALSE(other == controls);
+  int& last = controls[2];
+  EXPECT_EQ(std::exchange(last, 7), 5);
   EXPECT_THROW(controls[-1], SubscriptError);
   EXPECT_THROW(controls[3], SubscriptError);
+  controls = other;
+  EXPECT_TRUE(other == controls);
+  EXPECT_FALSE(controls.Has(2));
+  EXPECT_EQ(last, 5);
+  controls.Load();
+  EXPECT_EQ(&controls[2], &last);
 }
 
 TEST(Conversions, LenientTakesTheLeadingNumberAndStrictTheWholeText) {
@@ -66,6 +81,8 @@ TEST(Conversions, LenientTakesTheLeadingNumberAndStrictTheWholeText) {
     EXPECT_EQ(LenientNumber(text), value) << text;
     EXPECT_THROW(StrictNumber(text), TypeMismatchError) << text;
   }
+  EXPECT_EQ(StrictNumber(std::string_view("15.5").substr(0, 1)), 1);  // looks at nothing behind
+  EXPECT_EQ(StrictNumber(std::string_view("15.5").substr(0, 2)), 15);
   EXPECT_THROW(LenientNumber(" -1e400x"), OverflowError);
   EXPECT_THROW(StrictNumber("1e400"), OverflowError);
   EXPECT_EQ(LenientInt16("32767.4 points"), 32767);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/text.h"
 
+#include <map>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -22,8 +23,8 @@ TEST(Text, FieldsArePickedAsTheyStand) {
                {"a b , c", 2, ",", " c"}, {"a b , c", 1, ",", "a b "}, {"HI", 1, "+", "HI"},
                {"a,b", 2, "", "b"},       {"a,b+c", 1, "+", "a,b"},    {"a,b", 0, ",", ""},
                {"a,b", -1, ",", ""},      {"a,b", 32767, ",", ""}};
-  for (const auto& c : cases)
-    EXPECT_EQ(GetField(c.Text, c.N, c.Separator), c.Field) << c.Text << " field " << c.N;
+  for (const auto& [text, n, separator, field] : cases)
+    EXPECT_EQ(GetField(text, n, separator), field) << text << " field " << n;
 }
 
 TEST(Text, ReplacementsGoFromLeftToRightOnce) {
@@ -50,19 +51,16 @@ TEST(Ansi, KnowsTheLettersOfTheCodePage) {
 }
 
 TEST(Ansi, WhatIsOutsideTheCodePageIsAQuestionMark) {
-  const struct {
-    const char* Utf8;
-    const char* Ansi;
-  } cases[] = {
-      {"Ω-ऀ-𝄞!", "?-?-?!"},  // two, three and four bytes, one character each
-      {"a\x80z", "a?z"},    // continuation without a start
-      {"\xC3(", "?("},      // start without its continuation
-      {"\xE2\x82", "??"},   // cut off
-      {"\xFFz", "?z"},      // never a byte of UTF-8
-      {"\xC1\xA1", "??"},   // spelled longer than it may be
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(AnsiFromUtf8(c.Utf8), c.Ansi);
+  const std::map<std::string, std::string> cases = {
+      {"Ω-ࠀ-𐀀!", "?-?-?!"},          // two, three and four bytes, one character each
+      {"\xC2\x80", "?"},             // a control character whose number is that of a letter
+      {"a\x80z", "a?z"},             // continuation without a start
+      {"\xC3(", "?("},               // start without its continuation
+      {"\xE2\x82", "??"},            // cut off
+      {"\xF8\x90\x80\x80", "????"},  // never a byte of UTF-8
+      {"\xC1\xA1", "??"}};           // spelled longer than it may be
+  for (const auto& [utf8, ansi] : cases)
+    EXPECT_EQ(AnsiFromUtf8(utf8), ansi);
 }
 
 TEST(Paths, NamesStayBelowTheFolder) {
