@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/army_browser.h"
 
-#include <filesystem>
-
 #include "base/text.h"
 #include "support/sample_army.h"
 

@@ -4,15 +4,9 @@
 
 #include <limits>
 #include <map>
-#include <string>
-#include <string_view>
-#include <utility>
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "base/int16.h"
 #include "base/table.h"
+#include "support/testing.h"
 
 namespace tarnwick {
 namespace {

@@ -3,11 +3,9 @@
 #include "base/text.h"
 
 #include <map>
-#include <string>
-
-#include <gtest/gtest.h>
 
 #include "base/ansi.h"
+#include "support/testing.h"
 
 namespace tarnwick {
 namespace {

@@ -2,14 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/file_replacement.h"
 
-#include <filesystem>
-#include <iterator>
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "support/fake_host.h"
 #include "support/full_disk.h"
 #include "support/temp_folder.h"
 
@@ -47,13 +39,9 @@ TEST(ReplaceFile, AFailureLeavesTheTargetAndNamesIt) {
   }
   EXPECT_EQ(folder.Read("a.army"), "old");
   EXPECT_EQ(folder.Files(), Lines{"a.army"});
-  try {
-    ReplaceFile(folder / "none/a", "x", Durability::Lasting);
-    FAIL();
-  } catch (const FileError& error) {
-    EXPECT_EQ(error.what(), "File " + (folder / "none/a").string() +
-                                " cannot be written: No such file or directory");
-  }
+  const auto none = (folder / "none/a").string();
+  EXPECT_EQ(ErrorOf([&] { ReplaceFile(none, "x", Durability::Lasting); }),
+            "File " + none + " cannot be written: No such file or directory");
 }
 
 TEST(ReplaceFile, ClearsAwayWhatDeadProcessesLeft) {

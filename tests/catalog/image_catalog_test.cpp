@@ -2,11 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/image_catalog.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
 #include "support/temp_folder.h"
 
 namespace tarnwick {

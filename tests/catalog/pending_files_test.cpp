@@ -2,12 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/pending_files.h"
 
-#include <filesystem>
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "support/fake_host.h"
 #include "support/temp_folder.h"
 
 namespace tarnwick {

@@ -2,15 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/profile_files.h"
 
-#include <chrono>
-#include <filesystem>
 #include <optional>
-#include <string>
+#include <sys/stat.h>
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "support/fake_host.h"
 #include "support/temp_folder.h"
 
 namespace tarnwick {
@@ -61,9 +55,11 @@ TEST_F(ProfileFilesTest, AFailedWriteChangesNothingAndIsNoError) {
   EXPECT_NE(files_.WriteIniStrings({{"s", "k", "1"}, {"s", "j", "2"}, {"t", "k", "3"}}, file_), 0);
   EXPECT_EQ(folder_.Read("file.dat"), all);
   fs::permissions(file_, fs::perms::owner_read);
-  for (const char* name : {"none/file.dat", "folder.dat", "file.dat"})
+  mkfifo((folder_ / "pipe.dat").c_str(), 0600);  // can't be read, but could be replaced
+  for (const char* name : {"none/file.dat", "folder.dat", "pipe.dat", "file.dat"})
     EXPECT_EQ(files_.WriteIniStrings({{"s", "k", "8"}, {"u", "k", "9"}}, folder_ / name), 0);
-  EXPECT_EQ(folder_.Files(), (Lines{"file.dat", "folder.dat"}));
+  EXPECT_EQ(folder_.Files(), (Lines{"file.dat", "folder.dat", "pipe.dat"}));
+  EXPECT_TRUE(fs::is_fifo(folder_ / "pipe.dat"));
   EXPECT_EQ(folder_.Read("file.dat"), all);
 }
 

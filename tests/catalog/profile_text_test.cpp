@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/profile_text.h"
 
-#include <sstream>
-#include <string>
-#include <string_view>
-
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace tarnwick {
 namespace {

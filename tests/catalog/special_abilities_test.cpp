@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/special_abilities.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "support/temp_folder.h"
 

@@ -29,9 +29,7 @@ struct SampleState {
   }
 
   /// "left/spent" of the army points.
-  std::string Points() const {
-    return Joined(State.PointsLeft) + "/" + Joined(State.PointsSpent);
-  }
+  std::string Points() const { return Joined(State.PointsLeft) + "/" + Joined(State.PointsSpent); }
 
   TempFolder Folder;
   FakeHost Host;

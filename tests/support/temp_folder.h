@@ -6,12 +6,9 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <random>
-#include <string>
-#include <string_view>
-#include <system_error>
-#include <vector>
+
+#include "support/testing.h"
 
 namespace tarnwick {
 
@@ -53,8 +50,8 @@ class TempFolder {
   std::string Read(std::string_view name) const { return ReadBytes(path_ / name); }
 
   /// The names in the folder, or in one below it, in their order.
-  std::vector<std::string> Files(std::string_view name = "") const {
-    std::vector<std::string> names;
+  Lines Files(std::string_view name = "") const {
+    Lines names;
     for (const auto& entry : std::filesystem::directory_iterator(path_ / name))
       names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());

@@ -1,61 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <map>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "check_catalog/catalog_checker.h"
-#include "support/fake_host.h"
 #include "support/temp_folder.h"
 
 namespace tarnwick {
 namespace {
 
-using Files = std::map<std::string, std::string>;
-
-/// Just as many units as the views of an army have room for.
-std::string FullViews() {
-  std::string units = "tot_units=46\n";
-  for (int i = 1; i <= 46; ++i) {
-    const std::string number = std::to_string(i);
-    units += "unit" + number;
-    units += i <= 23 ? "=SK,," + number + ",1,J,4,8,\n" : "=LM,Dra," + number + ",1,,4,8,Rode\n";
-  }
-  return units;
-}
-
-/// A small program folder without a fault.
-const Files soundFiles = {
-    {"armylist.dat",
-     "[Armies]\ntotal=2\nname1=Host\nname2=Band\n"
-     "[Host]\npoints=100\ncommand_pts=100\ntot_units=4\nunit1=HI,,5,4,,10,6,Wall\n"
-     "unit2=SK,,3,1,J,4,8,\nunit3=LM,Dra,4.5,2,,30,1,Big\nunit4=SK,,4,1,J,3,8,\ntot_limits=2\n"
-     "limit1=HI+MI,6,\nlimit2=SK,2,\ntot_leader=2\nleader1=Ana X,4,1,40\nleader2=Bel,7,0,32767\n"
-     "tot_special=4\nspecial1=RALLY,8,4\nspecial2=FLANK,6,3\nspecial3=MISSILE,5,3\n"
-     "special4=CALTROP,4,3\n"
-     "[Band]\npoints=50\ncommand_pts=40\n" +
-         FullViews() +
-         "tot_limits=1\nlimit1=SK+SK,16,\ntot_leader=1\nleader1=Cyr,4,1,40\ntot_special=4\n"
-         "special1=RALLY,8,4\nspecial2=FLANK,6,3\nspecial3=MISSILE,5,3\nspecial4=COHESION,4,3\n"},
-    {"specials.dat", "[SPECIALS]\nWALL=" + std::string(254, 'x') +
-                         "\nMOUNTED=Ridden.\n[Wall]\nspecial=WALL\n[Big]\nspecial=MOUNTED+WALL\n["
-                         "Rode]\nspecial=MOUNTED\n"},
-    {"images.dat",
-     "[IMAGES]\ntotal=3\nimage1=a.svg,HI,,,Line\nimage2=b.svg,SK,,J,Boy\n"
-     "image3=c.svg,LM,Dra,,Worm\n"},
-    {"brakka/armylist.dat", "[Armies]\ntotal=0\n"},
-    {"brakka/images_brakka.dat", "[IMAGES]\ntotal=1\nimage1=d.svg,SM,,,Imp\n"},
-};
-
-Lines Check(const Files& files) {
-  const TempFolder folder;
-  for (const auto& [name, bytes] : files)
-    folder.Write(name, bytes);
-  for (const char* picture : {"a.svg", "b.svg", "c.svg", "brakka/d.svg"})
-    folder.Write(picture, "picture");
+Lines Check(const TempFolder& folder) {
   const auto canShow = [](const auto& file) { return TempFolder::ReadBytes(file) == "picture"; };
   Lines said;
   for (const auto& problem : CheckCatalogs(folder.Path(), canShow))
@@ -143,19 +96,21 @@ const std::map<std::string, std::vector<Fault>> faults = {
      {{"1", "198", "Both catalogs together have more than 200 rows.", 197}}}};
 
 TEST(CatalogChecker, HasASentenceForEveryFault) {
-  EXPECT_EQ(Check(soundFiles), Lines());
+  const TempFolder folder;
+  EXPECT_EQ(Check(folder).front(), "specials.dat: The file is missing.");
+  folder.Copy(TEST_DATA "/sound");
+  EXPECT_EQ(Check(folder), Lines());
   for (const auto& [place, ofPlace] : faults) {
+    const std::string file = place.substr(0, place.find(':')), sound = folder.Read(file);
     for (const auto& [find, replace, sentence, more] : ofPlace) {
-      Files files = soundFiles;
-      std::string& bytes = files[place.substr(0, place.find(':'))];
-      ASSERT_NE(bytes.find(find), std::string::npos) << find;
-      bytes.replace(bytes.find(find), find.size(), replace);
-      const Lines said = Check(files);
+      ASSERT_NE(sound.find(find), std::string::npos) << find;
+      folder.Write(file, std::string(sound).replace(sound.find(find), find.size(), replace));
+      const Lines said = Check(folder);
       EXPECT_EQ(std::count(said.begin(), said.end(), place + sentence), 1) << sentence;
       EXPECT_EQ(said.size(), 1 + more) << sentence << testing::PrintToString(said);
     }
+    folder.Write(file, sound);
   }
-  EXPECT_EQ(Check({}).front(), "specials.dat: The file is missing.");
 }
 
 }  // namespace
