@@ -6,7 +6,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 struct ArmyBrowser : testing::Test, SampleArmy {
   /// Lists the armies and selects one by its name; the names come back.
@@ -99,5 +98,4 @@ TEST_F(ArmyBrowser, DeletesInTheProgramFolderAfterAQuestion) {
   EXPECT_EQ(Host.Heard(), Lines(3, "Do You really want to delete the army a ?"));
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 constexpr int bc = 0, ac = 1;
 
@@ -105,5 +104,4 @@ TEST_F(HeaderTest, TypeAndRulesComeFromTheFile) {
   EXPECT_EQ(Header.ArmyDescription, "a@@b\nc@");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 struct Loading : testing::Test, SampleArmy {
   void Load(const std::string& bytes) {
@@ -141,5 +140,4 @@ TEST_F(Loading, TheSecondModuleLosesTerrainAndSetups) {
   EXPECT_EQ(Field.AreaTerrain[1], "CLEAR");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 struct Resetting : testing::Test, SampleArmy {};
 
@@ -35,5 +34,4 @@ TEST_F(Resetting, EmptiesTheArmyAndReadsItsPointsAgain) {
   EXPECT_FALSE(Army.GridFilling || Army.SetupLoading);
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 /// An army of two skirmishers and a phalanx that was loaded.
 struct Saving : testing::Test, SampleArmy {
@@ -90,5 +89,4 @@ TEST_F(Saving, AnErrorOnTheWayKeepsTheLinesWrittenSoFar) {
   EXPECT_TRUE(Saved().ends_with("\r\n\r\n[LEADER]\r\n")) << Saved();
 }
 
-}  // namespace
 }  // namespace tarnwick

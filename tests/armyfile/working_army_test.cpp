@@ -5,7 +5,6 @@
 #include "support/sample_army.h"
 
 namespace tarnwick {
-namespace {
 
 struct AfterALoad : testing::Test, SampleArmy {
   AfterALoad() {
@@ -59,5 +58,4 @@ TEST_F(Start, ReadsThePictures) {
   EXPECT_FALSE(Army.FormReady || Army.SpecRowsLoaded);
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -9,7 +9,6 @@
 #include "support/testing.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(Int16, ResultsReachBothEndsAndNoFurther) {
   Int16 top = Int16() + 32766, bottom = Int16(256) * -128;
@@ -114,5 +113,4 @@ TEST(NumberText, IsTheShortestForm) {
   EXPECT_EQ(NumberText(Int16(-32768)), "-32768");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -8,7 +8,6 @@
 #include "support/testing.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(Text, FieldsArePickedAsTheyStand) {
   const struct {
@@ -68,5 +67,4 @@ TEST(Paths, NamesStayBelowTheFolder) {
   EXPECT_EQ(AnsiFromPath(std::filesystem::path(u8"/Zürich/Ω")), "/Z\xFCrich/?");
 }
 
-}  // namespace
 }  // namespace tarnwick

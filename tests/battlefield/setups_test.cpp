@@ -6,7 +6,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 /// An army of three rows, two of them alike.
 struct Setups : testing::Test {
@@ -138,5 +137,4 @@ TEST_F(Setups, TwentyTravelBetweenArmyAndScratchFile) {
   EXPECT_FALSE(Folder.Has("working.setup"));
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 struct Terrain : testing::Test {
   Terrain() { InitTerrainKinds(Field); }
@@ -80,5 +79,4 @@ TEST_F(Terrain, AnUnknownKindEndsTheLoading) {
             "CLEAR|wood|CLEAR|0|0");
 }
 
-}  // namespace
 }  // namespace tarnwick

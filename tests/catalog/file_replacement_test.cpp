@@ -6,7 +6,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -61,5 +60,4 @@ TEST(ReplaceFile, ClearsAwayWhatDeadProcessesLeft) {
   EXPECT_EQ(folder.Files().size(), others.size() + 1);
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(ImageCatalog, HasTheModulesRowsFirstAndThePicturesOfTheProgramFolder) {
   const TempFolder folder;
@@ -43,5 +42,4 @@ TEST(ImageCatalog, HasTheModulesRowsFirstAndThePicturesOfTheProgramFolder) {
   EXPECT_EQ(PictureFile(disk, false, "b.svg"), folder / "b.svg");
 }
 
-}  // namespace
 }  // namespace tarnwick

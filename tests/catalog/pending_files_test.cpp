@@ -5,7 +5,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(PendingFiles, AreReplacedWhenAllAreComplete) {
   const TempFolder folder;
@@ -32,5 +31,4 @@ TEST(PendingFiles, AreReplacedWhenAllAreComplete) {
   EXPECT_FALSE(folder.Has("e.army"));
 }
 
-}  // namespace
 }  // namespace tarnwick

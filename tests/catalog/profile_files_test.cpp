@@ -8,7 +8,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
@@ -110,5 +109,4 @@ TEST_F(ProfileFilesTest, ChangesThatTheTimeStampCanNotTellAreSeen) {
   }
 }
 
-}  // namespace
 }  // namespace tarnwick

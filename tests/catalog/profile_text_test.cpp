@@ -5,7 +5,6 @@
 #include "support/testing.h"
 
 namespace tarnwick {
-namespace {
 
 using namespace std::string_view_literals;
 
@@ -107,5 +106,4 @@ TEST(ProfileText, ListsItsKeyLinesAndTellsTheDoubledOnes) {
   EXPECT_EQ(lines.str(), "s: c=2\ns: C=3 doubled\nT: c=4\nS: e=5 doubled\n");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(SpecialAbilities, TenCodesAreLookedAtAndTheFirstGapEndsTheList) {
   const TempFolder folder;
@@ -37,5 +36,4 @@ TEST(SpecialAbilities, TenCodesAreLookedAtAndTheFirstGapEndsTheList) {
   }
 }
 
-}  // namespace
 }  // namespace tarnwick

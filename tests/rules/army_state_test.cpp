@@ -5,7 +5,6 @@
 #include "support/testing.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(ArmyState, StartsWithTheDesignsTexts) {
   ArmyState state;
@@ -37,5 +36,4 @@ TEST(MonsterLaboratory, OffersSizeQualityAndType) {
             (Lines{"SM", "LM", "EL", "PH", "HI", "MI", "LI", "SK", "LC", "HC"}));
 }
 
-}  // namespace
 }  // namespace tarnwick

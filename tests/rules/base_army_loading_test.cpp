@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 /// "tot_units=24", "unit1=row" and so on.
 std::string Rows(const std::string& total, const char* word, int count, const std::string& row) {
@@ -118,5 +117,4 @@ TEST(LoadSpecials, TheFirstArmyMakesFourRowsAndLaterOnesLabelTheirs) {
   EXPECT_EQ(Shown(panel.SpecMaxLabel, 6), "1|1|1|1|1|1|");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
   SampleState sample("Cards");
@@ -22,5 +21,4 @@ TEST(ArmySelection, ListsTheCatalogAndTakesANamedLine) {
   EXPECT_EQ(sample.Host.Heard(), Lines(2, "Please select one army"));
 }
 
-}  // namespace
 }  // namespace tarnwick

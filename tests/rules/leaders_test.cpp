@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 struct LeaderChoice : testing::Test, SampleState {
   LeaderChoice() : SampleState("Leaders") {}
@@ -78,5 +77,4 @@ TEST_F(LeaderChoice, TheDialogDefinesLeadersThatNobodyHasChosenYet) {
   EXPECT_EQ(Joined(State.Leaders[10].Initiative, State.LeaderCount), "4|12");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 /// Card row 0 costs 2 (9 at most), row 1 costs 1.5 (4), row 2 has no numbers.
 struct Cards : testing::Test, SampleState {
@@ -68,5 +67,4 @@ TEST_F(Cards, TheTitleCountsWhatTheBoxesShow) {
   EXPECT_THROW(deck(328, "", ""), OverflowError);  // 32800 parts of a hundred
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 struct Row {
   const char *Type, *TQ, *Size;
@@ -50,5 +49,4 @@ TEST(PrintTQInfo, SumsUpWhatIsBought) {
     EXPECT_THROW(LineFor({row}), TypeMismatchError) << row.TQ;
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 struct Grid : testing::Test, SampleState {
   Grid() : SampleState("Grid") {}
@@ -112,5 +111,4 @@ TEST_F(Grid, ButtonsShowPictureAndAbilities) {
   EXPECT_EQ(abilities(0), 1);
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 /// Infantry lines: 0 costs 7 (4 at most), 1 costs 30 (90), 2 costs nothing (500), 3 costs 1000.
 struct Purchase : testing::Test, SampleState {
@@ -93,5 +92,4 @@ TEST_F(Purchase, AfterAResetCountsForWhatTheLinesShow) {
   EXPECT_EQ(buy(1, "1"), "0|1|0|2|1|72/28");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -5,7 +5,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 TEST(UnitTypeCode, SomeTypesAreSplitByClass) {
   const struct {
@@ -38,5 +37,4 @@ TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
   EXPECT_EQ(kind("SK", 5), skirmishers);
 }
 
-}  // namespace
 }  // namespace tarnwick

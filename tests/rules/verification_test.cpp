@@ -7,7 +7,6 @@
 #include "support/sample_state.h"
 
 namespace tarnwick {
-namespace {
 
 /// What the limits say of the units bought, by row: 1 LI, 2 LP, 3 HI, 4 HI of class x, 5 CO of
 /// class Vet, 6 HC, 7 LM, 8 CO without a class.
@@ -81,5 +80,4 @@ TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
   EXPECT_THROW(said(20000), OverflowError);
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -6,7 +6,6 @@
 #include "support/temp_folder.h"
 
 namespace tarnwick {
-namespace {
 
 Lines Check(const TempFolder& folder) {
   const auto canShow = [](const auto& file) { return TempFolder::ReadBytes(file) == "picture"; };
@@ -113,5 +112,4 @@ TEST(CatalogChecker, HasASentenceForEveryFault) {
   }
 }
 
-}  // namespace
 }  // namespace tarnwick
