@@ -2,15 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "window_driver.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QLayout>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -18,21 +24,58 @@
 namespace tarnwick {
 namespace {
 
-/// The window that a user would be typing into. Without a window manager nobody makes the one
-/// below active again when a dialog closes, so this does.
-QWindow* FrontWindow() {
-  QWidget* front = QApplication::activePopupWidget();
-  if (front == nullptr) front = QApplication::activeModalWidget();
-  if (front == nullptr) front = QApplication::activeWindow();
-  const QList<QWidget*> windows = QApplication::topLevelWidgets();
-  for (int i = 0; front == nullptr && i < windows.size(); ++i) {
-    if (windows[i]->isVisible()) front = windows[i];
+/// What a platform with dragging would do with a piece that is pressed.
+void CarryOver(QWidget& source, QWidget& target, const WindowDriver::Script& onTheWay) {
+  const QPoint away = source.rect().center() + QPoint(QApplication::startDragDistance(), 0);
+  QMouseEvent move(QEvent::MouseMove, away, source.mapToGlobal(away), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&source, &move);
+  const auto* drag = source.findChild<QDrag*>();
+  if (drag == nullptr || !target.acceptDrops()) return;
+  const QPoint middle = target.rect().center();
+  QDragEnterEvent enter(middle, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &enter);
+  onTheWay();
+  if (!enter.isAccepted()) return;
+  QDropEvent drop(middle, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &drop);
+}
+
+/// A thing in a picture.
+QString Seen(const QWidget& widget) {
+  QString seen = widget.objectName() + " \"" + WindowDriver::TextOf(widget) + "\"";
+  if (widget.property("alignment").toInt() & Qt::AlignRight) seen += " >";
+  if (widget.property("default").toBool()) seen += " (Enter)";
+  if (!widget.isEnabled()) seen += " (idle)";
+  if (!widget.toolTip().isEmpty()) seen += " [" + widget.toolTip() + "]";
+  seen = seen.replace("\n", "\\n").replace(" \"\"", "").trimmed();
+  return seen.isEmpty() ? "-" : seen;
+}
+
+/// What a window holds. Things are in a row when they begin above the end of the highest of them.
+QString PictureOf(const QWidget& window, const QString& indent) {
+  auto parts = window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  parts.removeIf([](const QWidget* part) { return part->isWindow() || !part->isVisible(); });
+  const auto fromAbove = [](const QWidget* part) { return std::pair(part->y(), part->x()); };
+  const auto fromLeft = [](const QWidget* part) { return std::pair(part->x(), part->y()); };
+  std::ranges::sort(parts, {}, fromAbove);
+  QString picture;
+  QRegion taken;
+  for (auto row = parts.begin(), below = row; row != parts.end(); row = below) {
+    const int bottom = (*row)->geometry().bottom();
+    below = std::find_if(row, parts.end(), [&](const QWidget* part) { return part->y() > bottom; });
+    std::ranges::sort(row, below, {}, fromLeft);
+    QStringList seen;
+    QString held;
+    for (auto part = row; part != below; ++part) {
+      const QRect place = (*part)->geometry();
+      seen.append(Seen(**part) + (taken.intersects(place) ? " (covers another)" : ""));
+      taken += place;
+      if ((*part)->layout() != nullptr) held += PictureOf(**part, indent + "  ");
+    }
+    picture += indent + seen.join(" | ") + "\n" + held;
   }
-  if (!front->isActiveWindow() && QApplication::activePopupWidget() == nullptr) {
-    front->activateWindow();
-    QTest::qWait(1);
-  }
-  return front->windowHandle();
+  return picture;
 }
 
 }  // namespace
@@ -50,31 +93,86 @@ void WindowDriver::Watch() {
   });
 }
 
-QWidget* WindowDriver::FindWidget(const QString& name) {
-  QList<QWidget*> windows = QApplication::topLevelWidgets();
-  if (QWidget* front = QApplication::activeModalWidget()) windows.prepend(front);
-  for (QWidget* window : std::as_const(windows)) {
+QWidget* WindowDriver::FindWidget(const QString& name, bool seen) const {
+  QWidget* front = busyWith_ != nullptr ? busyWith_ : QApplication::activeModalWidget();
+  const QList<QWidget*> windows = front ? QList{front} : QApplication::topLevelWidgets();
+  for (QWidget* window : windows) {
     if (!window->isVisible()) continue;
     if (window->objectName() == name) return window;
-    if (auto* found = window->findChild<QWidget*>(name)) return found;
+    for (auto* found : window->findChildren<QWidget*>(name)) {
+      if (found->isVisible() || !seen) return found;
+    }
   }
   return nullptr;
 }
 
-void WindowDriver::Fail(const QString& name) {
-  std::fprintf(stderr, "No control %s in the open windows\n", qPrintable(name));
+/// The window that a user would be typing into. Without a window manager nobody makes the one
+/// below active again when a dialog closes, so this does.
+QWindow* WindowDriver::FrontWindow() const {
+  if (busyWith_ != nullptr && !busyWith_->isVisible()) {
+    Fail(busyWith_->objectName() + " closed before the end of its script");
+  }
+  QWidget* front = QApplication::activePopupWidget();
+  if (front == nullptr) front = QApplication::activeModalWidget();
+  if (front == nullptr) front = QApplication::activeWindow();
+  const QList<QWidget*> windows = QApplication::topLevelWidgets();
+  for (int i = 0; front == nullptr && i < windows.size(); ++i) {
+    if (windows[i]->isVisible()) front = windows[i];
+  }
+  if (!front->isActiveWindow() && QApplication::activePopupWidget() == nullptr) {
+    front->activateWindow();
+    QTest::qWait(1);
+  }
+  return front->windowHandle();
+}
+
+void WindowDriver::Fail(const QString& reason) {
+  std::fprintf(stderr, "%s\n", qPrintable(reason));
   std::abort();
 }
 
+int WindowDriver::Rows(const QString& array) {
+  int rows = 0;
+  for (const QWidget* widget : QApplication::allWidgets())
+    rows += widget->objectName().startsWith(array + "(") && !widget->isHidden();
+  return rows;
+}
+
+QString WindowDriver::TextOf(const QWidget& widget) {
+  for (const char* property : {"text", "title", "plainText", "currentText"}) {
+    if (widget.property(property).isValid()) return widget.property(property).toString();
+  }
+  return "";
+}
+
+std::pair<QStringList, int> WindowDriver::EntriesOf(const QWidget& widget) {
+  const auto* list = qobject_cast<const QListWidget*>(&widget);
+  const auto* open = qobject_cast<const QComboBox*>(&widget);
+  const QAbstractItemModel& model = list ? *list->model() : *open->model();
+  QStringList texts;
+  for (int i = 0; i < model.rowCount(); ++i)
+    texts.append(model.index(i, 0).data().toString());
+  if (open != nullptr) return {texts, open->currentIndex()};
+  const auto selected = list->selectedItems();
+  return {texts, selected.isEmpty() ? -1 : list->row(selected.front())};
+}
+
+QString WindowDriver::Picture(const QString& name) const {
+  const QWidget& window = Find(name);
+  return (name + " " + window.windowTitle()).trimmed() + "\n" + PictureOf(window, "  ");
+}
+
 void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
-  QWindow* window = widget.window()->windowHandle();
-  QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
-                    widget.mapTo(widget.window(), position));
+  const QPoint there = widget.mapTo(widget.window(), position);
+  const QWidget* hit = widget.window()->childAt(there);
+  if (hit != &widget && !widget.isAncestorOf(hit)) {
+    Fail(widget.objectName() + " is covered by " + (hit ? hit->objectName() : "its window"));
+  }
+  QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, there);
   Settle();
 }
 
-void WindowDriver::Click(const QString& name) {
-  QWidget& widget = Find(name);
+void WindowDriver::ClickOn(QWidget& widget) {
   // Near the left edge, where option buttons have their mark.
   ClickAt(widget, QPoint(qMin(12, widget.width() / 2), widget.height() / 2));
 }
@@ -89,6 +187,12 @@ void WindowDriver::Drag(const QString& from, const QString& to, const Script& on
   QWindow* window = source.window()->windowHandle();
   const QPoint start = source.mapTo(source.window(), source.rect().center());
   const QPoint end = target.mapTo(target.window(), target.rect().center());
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+  if (!CanDrag()) {
+    CarryOver(source, target, onTheWay);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
+    return;
+  }
   // The drag has an event loop of its own, in which these go on.
   QTimer::singleShot(50, window, [=] { QTest::mouseMove(window, (start + end) / 2); });
   QTimer::singleShot(100, window, [=] { QTest::mouseMove(window, end); });
@@ -96,7 +200,6 @@ void WindowDriver::Drag(const QString& from, const QString& to, const Script& on
     onTheWay();
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
   });
-  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
   QTest::mouseMove(window, start + QPoint(QApplication::startDragDistance() + 2, 0));
   QTest::qWait(250);
 }
@@ -104,6 +207,11 @@ void WindowDriver::Drag(const QString& from, const QString& to, const Script& on
 void WindowDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(FrontWindow(), key, modifiers);
   Settle();
+}
+
+void WindowDriver::PressIn(const QString& name, Qt::Key key) {
+  Find(name).setFocus();
+  Press(key);
 }
 
 void WindowDriver::Type(const QString& text) {
@@ -115,6 +223,11 @@ void WindowDriver::Type(const QString& text) {
     }
   }
   Settle();
+}
+
+void WindowDriver::Paste(const QString& text) {
+  QApplication::clipboard()->setText(text);
+  Press(Qt::Key_V, Qt::ControlModifier);
 }
 
 void WindowDriver::Enter(const QString& name, const QString& text) {
@@ -149,11 +262,19 @@ void WindowDriver::ClickEntry(const QString& name, int row, bool twice) {
 void WindowDriver::ClickEntry(const QString& name, const QString& text, bool twice) {
   auto& list = Find<QListWidget>(name);
   const auto found = list.findItems(text, Qt::MatchExactly);
-  if (found.isEmpty()) Fail(name + " with the entry " + text);
+  if (found.isEmpty()) Fail("No entry " + text + " in " + name);
   ClickEntry(name, list.row(found.front()), twice);
 }
 
+void WindowDriver::CloseDialog() {
+  FrontWindow()->close();
+  Settle();
+}
+
 QStringList WindowDriver::TakeMessages() {
+  for (; !scripts_.empty(); scripts_.pop_front())
+    messages_.append("(no dialog for a script)");
+  if (std::exchange(cancelNext_, false)) messages_.append("(no question to cancel)");
   return std::exchange(messages_, {});
 }
 
@@ -169,19 +290,26 @@ void WindowDriver::AnswerModal() {
   if (see_) see_(*modal);
   if (auto* box = qobject_cast<QMessageBox*>(modal)) {
     messages_.append(box->text());
-    const bool cancel = std::exchange(cancelNext_, false);
-    QAbstractButton* button = box->button(cancel ? QMessageBox::Cancel : QMessageBox::Ok);
-    if (button == nullptr) button = box->button(QMessageBox::Ok);
+    QAbstractButton* button = box->button(QMessageBox::Cancel);
+    const bool cancel = button != nullptr && std::exchange(cancelNext_, false);
+    if (!cancel) button = box->button(QMessageBox::Ok);
     busyWith_ = before;
     ClickAt(*button, button->rect().center());
     return;
   }
-  if (!scripts_.empty()) {
-    const Script script = std::move(scripts_.front());
-    scripts_.pop_front();
-    script();
+  if (scripts_.empty()) {
+    OnDialog([this, modal] {
+      messages_.append("(no script for " + modal->objectName() + ")");
+      CloseDialog();
+    });
   }
-  if (QApplication::activeModalWidget() == modal) modal->close();
+  const Script script = std::move(scripts_.front());
+  scripts_.pop_front();
+  script();
+  if (modal->isVisible()) {
+    messages_.append("(" + modal->objectName() + " left open)");
+    modal->close();
+  }
   busyWith_ = before;
 }
 

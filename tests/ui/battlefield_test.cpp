@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QIcon>
 #include <QListWidget>
+#include <QTest>
 
 #include "ui_fixture.h"
 
@@ -12,142 +14,125 @@ namespace tarnwick {
 namespace {
 
 struct BattlefieldTest : WindowTest {
-  /// A saved and loaded army: 235 of 400 army points and 210 of 250 command points are free.
-  void LoadTrebia() {
-    BuyValidArmy();
-    Hands.Click("QuickSave");
-    Hands.OnDialog([this] { Hands.ClickEntry("ArmyList", 0, true); });
-    Hands.Click("ShowSaveFrame");
-    Hands.Click("LoadBtn");
-    EXPECT_EQ(Hands.TakeMessages(), QStringList{"Army Saved"});
-  }
-
-  QStringList Entries(const QString& list) const {
-    QStringList texts;
-    const auto& widget = Hands.Find<QListWidget>(list);
-    for (int i = 0; i < widget.count(); ++i)
-      texts.append(widget.item(i)->text());
-    return texts;
-  }
-
-  std::string Terrain() const {
-    std::string kinds;
+  void ExpectTerrain(const QString& kinds, const QString& armyPts, const QString& commandPts) {
+    QStringList areas;
     for (const std::string& kind : Work.Field.AreaTerrain)
-      kinds += kind.substr(0, 2) + " ";
-    return kinds;
+      areas.append(ToQt(kind.substr(0, 2)));
+    EXPECT_EQ(areas.join(" "), kinds);
+    EXPECT_EQ(Texts("ArmyPts", "CommandPts"), (QStringList{armyPts, commandPts}));
   }
 
-  std::string Stored(const char* key) const {
-    return Store.Files.ReadIniString("SETUP 1", key, Folder.Path() / "working.setup");
+  /// How a control looks, without its border.
+  QImage Look(const QString& name, int border = 0) const {
+    const QRect inside = Find(name).rect().adjusted(border, border, -border, -border);
+    return Find(name).grab(inside).toImage().convertToFormat(QImage::Format_RGB32);
   }
 };
 
-TEST_F(BattlefieldTest, PiecesAreDraggedOntoAreas) {
-  if (!WindowDriver::CanDrag()) GTEST_SKIP() << "the platform has no dragging";
+TEST_F(BattlefieldTest, PiecesAreDraggedOrPickedAndPutDown) {
   LoadTrebia();
-  Hands.Click("ShowTerrainBtn");
-  bool seen = false;
-  Hands.Drag("TerrImg(2)", "Area(4)", [&] { seen = true; });
-  EXPECT_TRUE(seen);
-  EXPECT_EQ(Terrain(), "CL CL CL CL CA CL CL CL CL ");
-  EXPECT_EQ(Text("ArmyPts") + " " + Text("CommandPts"), "175 200");
-  Hands.Drag("TerrImg(5)", "Area(4)");
-  EXPECT_EQ(Terrain(), "CL CL CL CL CL CL CL CL CL ") << "a cliff";
-  EXPECT_EQ(Work.Field.AreaTerrain[4], "CLIFF");
-  EXPECT_EQ(Text("ArmyPts"), "85");
-  Hands.Drag("TerrImg(5)", "Area(0)");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Not enough points"});
+  Click("ShowTerrainBtn");
+  const QImage before = Look("Area(4)");
+  QImage held;
+  Drag("TerrImg(2)", "Area(4)", [&] { held = Look("Area(4)"); });
+  EXPECT_FALSE(held.isNull() || held == before) << "a piece is held over it";
+  Drag("TerrImg(4)", "Area(3)");
+  ExpectTerrain("CL CL CL MO CA CL CL CL CL", "125", "175");
+  Drag("TerrImg(5)", "Area(0)");
+  EXPECT_EQ(TakeMessages(), QStringList{"Not enough points"});
+  Drag("TerrImg(0)", "Area(4)");
+  EXPECT_EQ(Look("Area(4)"), before);
   // Let go beside the areas, nothing is put down; a drag is no click that picks.
-  Hands.Drag("TerrImg(3)", "ArmyPts");
-  Hands.Click("Area(8)");
-  EXPECT_EQ(Work.Field.AreaTerrain[8], "CLEAR");
+  Drag("TerrImg(3)", "ArmyPts");
+  Click("Area(8)");
+  ExpectTerrain("CL CL CL MO CL CL CL CL CL", "185", "185");
+
+  Click("TerrImg(3)", "Area(0)", "Area(1)");     // put down already
+  Click("TerrImg(4)", "TerrImg(4)", "Area(2)");  // put back
+  PressIn("TerrImg(1)", Qt::Key_Return);
+  PressIn("Area(8)", Qt::Key_Space);
+  PressIn("TerrImg(2)", Qt::Key_Enter);
+  const QImage picked = Look("TerrImg(2)");
+  Press(Qt::Key_Escape);
+  EXPECT_NE(Look("TerrImg(2)"), picked);
+  Click("Area(2)");
+  ExpectTerrain("WO CL CL MO CL CL CL CL SL", "135", "180");
 }
 
-TEST_F(BattlefieldTest, PiecesArePickedAndPutDownByClickAndKey) {
-  LoadTrebia();
-  Hands.Click("ShowTerrainBtn");
-  Hands.Click("Area(0)");  // nothing was picked
-  Hands.Click("TerrImg(3)");
-  Hands.Click("Area(0)");
-  Hands.Click("Area(1)");  // put down already
-  Hands.Find("TerrImg(1)").setFocus();
-  Hands.Press(Qt::Key_Return);
-  Hands.Find("Area(8)").setFocus();
-  Hands.Press(Qt::Key_Space);
-  Hands.Click("TerrImg(4)");
-  Hands.Press(Qt::Key_Escape);
-  Hands.Click("Area(2)");
-  EXPECT_EQ(Terrain(), "WO CL CL CL CL CL CL CL SL ");
-  EXPECT_EQ(Text("ArmyPts") + " " + Text("CommandPts"), "185 205");
-  Hands.Click("ShowUnitsBtn");
-  EXPECT_EQ(Text("TotalCost"), "Points left: 185 of 400");
+TEST_F(BattlefieldTest, TilesShowTheirTerrain) {
+  Click("ShowTerrainBtn");
+  int kind = 0;
+  for (const char* name : {"clear", "slope", "camp", "wood", "mountain", "cliff"}) {
+    Work.Field.Terrain.Area[8 - kind].Picture = kind;
+    Form.Refresh();
+    const QIcon picture(QString(SHIPPED_DATA "/../src/ui/pictures/%1.svg").arg(name));
+    const QImage drawn = picture.pixmap(QSize(128, 128)).toImage().copy(8, 8, 112, 112);
+    EXPECT_EQ(Look(ElementName("Area", 8 - kind), 8), drawn.convertToFormat(QImage::Format_RGB32));
+    EXPECT_NE(Look(ElementName("TerrImg", kind), 8), Look(ElementName("TerrImg", kind ? 0 : 1), 8));
+    ++kind;
+  }
 }
 
 TEST_F(BattlefieldTest, UnitsAreDeployedInASetup) {
+  const auto stored = [this](const char* key) {
+    return ToQt(Store.Files.ReadIniString("SETUP 2", key, Folder.Path() / "working.setup"));
+  };
   LoadTrebia();
-  Hands.Click("ShowSetup");
-  EXPECT_FALSE(Hands.Find("setupFramePanel").isVisible());
-  Hands.Click("Command6");
-  EXPECT_EQ(Entries("setupList"), QStringList{"1"});
+  const std::string before = Folder.Read("working.setup");
+  Click("ShowSetup", "Command6");
   EXPECT_EQ(Text("description"), "New setup");
+  Folder.Write("working.setup", before);
+  Click("assignBtn(0)");
+  EXPECT_EQ(TakeMessages(), QStringList{"Please select a unit"});
+  EXPECT_EQ(stored("description"), "New setup") << "it is stored all the same";
   const QStringList units = Entries("unitList");
-  ASSERT_GT(units.size(), 3);
-  Hands.Click("assignBtn(0)");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please select a unit"});
-  Hands.ClickEntry("unitList", 1);
-  Hands.Click("assignBtn(0)");
-  EXPECT_EQ(Text("unit(0)"), units[1]);
-  Hands.ClickEntry("unitList", 0);
-  Hands.Click("assignBtn(0)");  // exchanges
-  EXPECT_EQ(Text("unit(0)") + Entries("unitList").last(), units[0] + units[1]);
-  EXPECT_EQ(QString::fromStdString(Stored("field1")), units[0]);
-  Hands.Click("assignBtn(0)");  // withdraws
-  EXPECT_EQ(Text("unit(0)") + Entries("unitList").last(), units[0]);
-  EXPECT_EQ(Stored("field1"), "");
+  for (const int row : {1, 0}) {  // the second takes the place of the first
+    ClickEntry("unitList", row);
+    Click("assignBtn(0)");
+    EXPECT_EQ(Text("unit(0)"), units[row]);
+    EXPECT_EQ(stored("field1"), units[row]);
+  }
+  Click("assignBtn(0)");  // withdraws
+  EXPECT_EQ(Entries("unitList").last(2), (QStringList{units[1], units[0]}));
+  const QString cut = QString(126, 'x') + "%1" + QString(126, 'y');  // the break takes two
+  Enter("description", cut.arg("\n") + "yyy");
+  EXPECT_EQ(stored("description"), cut.arg("\\n"));
 
-  Hands.Enter("description", "left\nright");
-  EXPECT_EQ(Stored("description"), "left\\nright");
-  Hands.Press(Qt::Key_A, Qt::ControlModifier);
-  Hands.Type(QString(126, 'x') + "\n" + QString(140, 'y'));
-  EXPECT_EQ(Stored("description").size(), 254U);  // the line break takes two
-  Hands.Click("ShowSetup");
-  EXPECT_FALSE(Hands.Find("setupFramePanel").isVisible());
-  Hands.ClickEntry("setupList", 0);
-  EXPECT_TRUE(Hands.Find("setupFramePanel").isVisible());
-  EXPECT_EQ(Text("description"), QString(126, 'x') + "\n" + QString(126, 'y'));
-  Hands.Click("Command3");
-  EXPECT_TRUE(Hands.Find("EditFrame(5)").isVisible());
-  EXPECT_EQ(Entries("setupList"), QStringList{"1"});
-  Hands.Click("NewMonsterBtn");
-  EXPECT_EQ(Text("M_Size") + Text("M_TQ") + Text("M_Type"), "54SM");
+  PressIn("setupList", Qt::Key_Up);
+  const QString first = "Mago in ambush.\nThe slingers in front.";
+  EXPECT_EQ(Texts("description", "unit(0)"), (QStringList{first, "LC,,5,2,J"}));
+  for (const bool byKey : {false, true}) {
+    Click("ShowSetup");
+    EXPECT_FALSE(Sees("setupFramePanel"));
+    byKey ? PressIn("setupList", Qt::Key_Return) : ClickEntry("setupList", 0);
+    EXPECT_EQ(Text("description"), first);
+  }
+  Click("Command3", "NewMonsterBtn");
+  EXPECT_EQ(Texts("M_Size", "M_TQ", "M_Type"), (QStringList{"5", "4", "SM"}));
 }
 
 TEST_F(BattlefieldTest, TheBrowserRefusesANewerFileAndLoadsByADoubleClick) {
-  LoadTrebia();
   Folder.Write("Newer.army", "[EDITOR]\r\nversion=1.3\r\n[ARMY]\r\nbase=Carthage in Italy\r\n");
-  Enter("Buy(2)", "1");
-  Hands.OnDialog([this] {
-    EXPECT_EQ(Entries("ArmyList"), (QStringList{"Newer", "Trebia"}));
-    DoubleClickBelowArmies();
-    Hands.ClickEntry("ArmyList", 0, true);
+  OnDialog([this] {
+    const auto& list = Find<QListWidget>("ArmyList");
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.viewport()->rect().bottomLeft());
+    Click("Command1");
+    EXPECT_EQ(TakeMessages(), QStringList(2, "This army has not been created whit this editor"));
+    ClickEntry("ArmyList", 1);
+    EXPECT_TRUE(Text("ArmyDetailLabel").startsWith("\nName: Hannibal at the Trebia\nBase: "));
+    Press(Qt::Key_Up);
     EXPECT_TRUE(Text("ArmyDetailLabel").endsWith("\n\n*** Required editor version: 1.3"));
-    EXPECT_EQ(Hands.TakeMessages(), (QStringList{"This army has not been created whit this editor",
-                                                 "This army need version 1.3 or better"}));
-    Hands.CancelNextMessage();
-    Hands.Click("DelArmy");
-    Hands.Click("DelArmy");
+    Click("Command1");
+    ClickEntry("ArmyList", 0, true);
+    EXPECT_EQ(TakeMessages(), QStringList(2, "This army need version 1.3 or better"));
+    Click("DelArmy");
     EXPECT_EQ(Entries("ArmyList"), QStringList{"Trebia"});
-    Hands.ClickEntry("ArmyList", 0, true);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(Text("ArmyDetailLabel").endsWith("1.3")) << "nothing else is selected";
+    ClickEntry("ArmyList", 0, true);
   });
-  Hands.Click("ShowSaveFrame");
-  Hands.Click("LoadBtn");
-  const QString question = "Do You really want to delete the army Newer ?";
-  EXPECT_EQ(Hands.TakeMessages(), (QStringList{question, question}));
-  EXPECT_TRUE(Hands.Find("EditFrame(0)").isVisible());
-  EXPECT_EQ(Points(), "235/165 210");
-  EXPECT_EQ(Text("Buy(0)") + Text("Buy(2)"), "4");
-  EXPECT_TRUE(Ticked("LeaderName(4)"));
+  Click("LoadBtn");
+  EXPECT_EQ(TakeMessages(), QStringList{"Do You really want to delete the army Newer ?"});
+  EXPECT_EQ(Text("TotalCost"), "Points left: 235 of 400");
 }
 
 }  // namespace

@@ -3,190 +3,19 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
-#include <QListWidget>
+#include <QDate>
+#include <QLabel>
 #include <QTimer>
 
-#include "support/full_disk.h"
+#include "base/text.h"
 #include "ui_fixture.h"
 
 namespace tarnwick {
 namespace {
-
-QColor TextColour(const QWidget& label) {
-  return label.palette().color(label.foregroundRole());
-}
-
-TEST_F(WindowTest, ANewArmyIsChosenInTheDialog) {
-  Hands.OnDialog([this] {
-    const auto& list = Hands.Find<QListWidget>("ArmyList");
-    ASSERT_GE(list.count(), 3);
-    EXPECT_EQ(list.item(1)->text(), "Kingdom of Pontos");
-    Hands.Click("Command1");
-    EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please select one army"});
-    Hands.ClickEntry("ArmyList", 2);
-    Hands.ClickEntry("ArmyList", 1, true);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  });
-  Hands.Click("NewArmyBtn");
-  EXPECT_EQ(Text("ArmyName"), "Kingdom of Pontos");
-  EXPECT_EQ(Text("TotalCost"), "Points left: 430 of 430");
-  EXPECT_EQ(Text("LeaderFrame"), " Leaders (pts left: 240)");
-  EXPECT_EQ(Text("LeaderName(5)"), "Varius the Exile 40 [ 4 / 1 ] ");
-  EXPECT_EQ(Form.windowTitle(), "Velmora Tarnwick ver 1.2.1 ");
-  Hands.Click("ShowUnitsBtn");
-  EXPECT_EQ(Text("TypeLimit(1)") + Text("MinLimit(1)"), "CO[Con]2");
-  EXPECT_TRUE(Hands.Find("Buy(14)").isVisible());
-  EXPECT_FALSE(Hands.Find("Buy(15)").isVisible());  // 15 rows on foot
-  Hands.Enter("Buy(0)", "2");
-  EXPECT_EQ(TextColour(Hands.Find("TypeLabel(0)")), QColor(Qt::black));
-  Hands.Click("ViewOption(1)");
-  EXPECT_EQ(Text("TypeLabel(0)") + Text("ClassLabel(0)") + Text("CostLabel(0)"), "LN25");
-  EXPECT_EQ(TextColour(Hands.Find("TypeLabel(0)")), QColor(0x55, 0x55, 0xFF));
-  Hands.Click("ViewOption(2)");
-  EXPECT_EQ(Text("TypeLabel(0)") + Text("Buy(0)") + Text("UnitTotalLabel(0)"), "PH240");
-  EXPECT_EQ(TextColour(Hands.Find("TypeLabel(0)")), QColor(Qt::black));
-  EXPECT_FALSE(Hands.Find("Buy(1)").isVisible());
-
-  // Closed by its frame, even with an entry selected, the dialog leaves the army but not its name.
-  Hands.Click("ShowDetailBtn");
-  Hands.Enter("ArmyDesc", "Old");
-  Hands.Click("ShowSaveFrame");
-  Hands.OnDialog([this] { Hands.ClickEntry("ArmyList", 0); });
-  Hands.Click("NewArmyBtn");
-  EXPECT_EQ(Text("ArmyName") + Text("ArmyDesc"), "");
-  EXPECT_EQ(Text("TypeLabel(0)") + Text("Buy(0)"), "PH2");
-  EXPECT_EQ(Points(), "390/40 240");
-}
-
-TEST_F(WindowTest, ALeaderIsChosenWithinTheCommandPoints) {
-  NewArmy(0);
-  Hands.Click("ShowCommandBtn");
-  const auto expectChosen = [this](int leader, const std::string& points) {
-    EXPECT_EQ(Work.Army.SelectedLeader, leader);
-    EXPECT_EQ(Points(), "400/0 " + points);
-    EXPECT_EQ(Text("LeaderFrame").toStdString(), " Leaders (pts left: " + points + ")");
-    for (int i = 0; i < 7; ++i)
-      EXPECT_EQ(Ticked(ElementName("LeaderName", i)), i == leader) << i;
-  };
-  Enter("SpecBuy(0)", "4");
-  Enter("SpecBuy(1)", "4");
-  Enter("SpecBuy(2)", "2");
-  Enter("SpecBuy(3)", "3");
-  EXPECT_EQ(Form.windowTitle(), "Velmora Tarnwick ver 1.2.1 [ #cards: 13 units: 0 (0%) ]");
-  Hands.Click("LeaderName(0)");  // 150 of 142 points
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Insufficient points left"});
-  expectChosen(-1, "142");
-  Hands.Click("LeaderName(4)");
-  expectChosen(4, "102");
-  Hands.Press(Qt::Key_Up);
-  expectChosen(3, "72");
-  Hands.Press(Qt::Key_Up);
-  Hands.Press(Qt::Key_Up);
-  expectChosen(1, "42");
-  Hands.Press(Qt::Key_Up);
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Insufficient points left"});
-  expectChosen(1, "42");
-  Enter("SpecBuy(1)", "");
-  expectChosen(1, "82");
-  Hands.Click("LeaderName(0)");
-  expectChosen(0, "32");
-}
-
-TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
-  NewArmy(0);
-  Hands.Click("ShowUnitsBtn");
-  Hands.OnDialog([this] {
-    EXPECT_EQ(Hands.Find("specForm").windowTitle(), "Special Abilities");
-    EXPECT_EQ(Text("specText"),
-              "Special abilities for the unit: HI\n\n\n*SPEARWALL=Levelled spears break a charge. "
-              "Mounted enemies who hit the front lose the bonus of their charge.\n\n*STEADY=Old "
-              "hands who have seen it all. The unit may repeat its first failed test of courage.");
-    Hands.Click("Command1");
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  });
-  Hands.Click("specLabel(1)");
-  EXPECT_FALSE(Hands.Find("specLabel(5)").isEnabled());  // an LG without abilities
-
-  Hands.Choose("ImageName(0)", 1);
-  EXPECT_EQ(Work.Army.BaseUnits[1].ChosenImage, "Punic citizen");
-  Hands.Click("ViewBtn(0)");
-  const auto picture = [this] { return Hands.Find<QLabel>("PictureForm").pixmap().toImage(); };
-  const QImage first = picture();
-  EXPECT_FALSE(first.isNull());
-  Hands.Click("ViewBtn(8)");
-  EXPECT_NE(picture(), first);
-  int open = 0;
-  for (const QWidget* window : QApplication::topLevelWidgets()) {
-    open += window->objectName() == "PictureForm";
-  }
-  EXPECT_EQ(open, 1);
-
-  std::filesystem::remove_all(Folder / "pictures");
-  Hands.Click("ViewBtn(0)");
-  EXPECT_EQ(
-      Hands.TakeMessages(),
-      QStringList{"File " +
-                  QString::fromStdString((Folder / "pictures/hi_punic_citizen.svg").string()) +
-                  " not found"});
-}
-
-TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndNoPeriod) {
-  Hands.Click("modOption(1)");
-  Hands.Click("ShowDetailBtn");
-  EXPECT_FALSE(Hands.Find("HistoricTab").isVisible());
-  Hands.OnDialog([this] {
-    DoubleClickBelowArmies();
-    EXPECT_EQ(Hands.TakeMessages(), QStringList{"Please select one army"});
-    Hands.ClickEntry("ArmyList", 0, true);
-  });
-  Hands.Click("ShowSaveFrame");
-  Hands.Click("NewArmyBtn");
-  EXPECT_EQ(Text("ArmyName"), "Fenmoot of Oorl");
-  EXPECT_TRUE(Ticked("TYPE_IsFantasy"));
-  Hands.Click("modOption(0)");
-  Hands.Click("ShowDetailBtn");
-  EXPECT_TRUE(Hands.Find("HistoricTab").isVisible());
-  EXPECT_EQ(Text("TypeLabel(0)"), "PH");  // the army stays
-  NewArmy(2);
-  EXPECT_FALSE(Ticked("TYPE_IsFantasy"));
-}
-
-TEST_F(WindowTest, AnArmyIsVerifiedSavedAndReset) {
-  BuyValidArmy();
-  Hands.Click("ShowUnitsBtn");
-  Hands.Click("VerifyBtn");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Army is OK"});
-  Hands.Click("ShowSaveFrame");
-  Hands.Click("SaveBtn");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Army Saved"});
-  const std::string saved = Folder.Read("Trebia.army");
-  EXPECT_NE(saved.find("numunits=14\r\n"), std::string::npos) << saved;
-
-  Hands.Enter("ArmyName", "Trasimene");
-  const QString question = "Do you want to replace the existing Trebia.army file ?";
-  Hands.CancelNextMessage();
-  Hands.Click("SaveBtn");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{question});
-  EXPECT_EQ(Folder.Read("Trebia.army"), saved);
-  Hands.Click("QuickSave");
-  EXPECT_EQ(Hands.TakeMessages(), (QStringList{question, "Army Saved"}));
-  EXPECT_NE(Folder.Read("Trebia.army").find("name=Trasimene\r\n"), std::string::npos);
-
-  Hands.Click("ShowUnitsBtn");
-  Hands.Click("ResetArmy");
-  EXPECT_EQ(Points(), "400/0 250");
-  EXPECT_EQ(Text("Buy(0)") + Text("UnitTotalLabel(0)"), "");
-  EXPECT_FALSE(Ticked("LeaderName(4)"));
-  Enter("Buy(1)", "2");  // the reset took the unit from the line; it counts for the one shown
-  EXPECT_EQ(Points(), "360/40 250");
-  EXPECT_EQ(Text("Buy(1)") + Text("UnitTotalLabel(1)"), "240");
-  EXPECT_EQ(Work.Army.BaseUnits[2].Bought, 2);
-  Hands.Click("VerifyBtn");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"You must buy at least 4 units of type HI"});
-}
 
 /// Runs the event loop while `act` acts. The exit status, -1 when the program just goes on.
 int Exec(const std::function<void()>& act) {
@@ -194,68 +23,175 @@ int Exec(const std::function<void()>& act) {
   goesOn.callOnTimeout([] { QApplication::exit(-1); });
   QTimer::singleShot(0, [&] {
     act();
+    WindowDriver::Settle();
     goesOn.start(0);
   });
   return QApplication::exec();
 }
 
-TEST_F(WindowTest, AnErrorThatNobodyCatchesEndsTheProgram) {
-  std::string catalog = "[IMAGES]\ntotal=201\n";
-  for (int i = 1; i <= 201; ++i)
-    catalog += "image" + std::to_string(i) + "=x.svg,PH,,,x\n";
-  Folder.Write("brakka/images_brakka.dat", catalog);
-  EXPECT_EQ(Exec([this] { Hands.Click("modOption(1)"); }), 1);
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Run-time error: Subscript out of range"});
-}
-
-TEST_F(WindowTest, AnArmyThatCannotBeSavedStaysWholeOnDisk) {
-  BuyValidArmy();
-  Hands.Click("QuickSave");
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Army Saved"});
-  const std::string saved = Folder.Read("Trebia.army");
-  const FullDisk full;
-  EXPECT_EQ(Exec([this] { Hands.Click("QuickSave"); }), 1);
-  const QStringList said = Hands.TakeMessages();
-  ASSERT_EQ(said.size(), 2);
-  EXPECT_TRUE(said[1].startsWith("Run-time error: File ")) << said[1].toStdString();
-  EXPECT_TRUE(said[1].contains("Trebia.army cannot be written")) << said[1].toStdString();
-  EXPECT_EQ(Folder.Read("Trebia.army"), saved);
-}
-
-TEST_F(WindowTest, AnArmyIsPutBackUnderTheWindow) {
+TEST_F(WindowTest, ANewArmyIsChosenInTheDialog) {
   const WorkingArmy none = Work;
-  BuyValidArmy();
-  const WorkingArmy valid = Work;
+  OnDialog([this] {
+    Click("Command1");
+    EXPECT_EQ(TakeMessages(), QStringList{"Please select one army"});
+    ClickEntry("ArmyList", 2);
+    ClickEntry("ArmyList", 1, true);
+  });
+  Click("NewArmyBtn");
+  EXPECT_EQ(Text("ArmyName"), "Kingdom of Pontos");
+  EXPECT_EQ(Form.windowTitle(), "Velmora Tarnwick ver 1.2.1 ");
+  EXPECT_EQ(std::tuple(Rows("LeaderName"), Rows("Buy"), Rows("TypeLimit"), Rows("MinLimit")),
+            std::tuple(6, 15, 5, 5));
+  Click("ShowUnitsBtn");
+  Fill({{"Buy(0)", "2"}});
+  Click("ViewOption(1)");
+  EXPECT_EQ(Text("TypeLabel(0)"), "LN");
+  ExpectWindowShowsState();  // in blue
+  Click("ViewOption(2)");
+  EXPECT_EQ(Texts("TypeLabel(0)", "Buy(0)", "UnitTotalLabel(0)"), (QStringList{"PH", "2", "40"}));
+  EXPECT_EQ(Rows("Buy"), 1);
+
   Work = none;  // without the card rows that the army brought
   Form.Refresh();
-  ExpectWindowShowsState();
-  EXPECT_TRUE(Form.findChild<QWidget*>("SpecBuy(3)")->isHidden());
-  Work = valid;
-  Form.Refresh();
-  Enter("SpecBuy(3)", "1");
-  EXPECT_EQ(Work.Army.Command.SpecBuy[3].Tag, "1");
+  EXPECT_EQ(Rows("SpecBuy"), 0);
+}
+
+TEST_F(WindowTest, ALeaderIsChosenAmongTheArmysAndThePlayersOwn) {
+  const std::string armies = Folder.Read("armylist.dat");
+  Folder.Write("armylist.dat", ReplaceText("leader4=Mago", "leaderX=Mago", armies));
+  NewArmy(0);
+  EXPECT_EQ(TakeMessages(), QStringList{"Leader # 4 not present"});
+  EXPECT_EQ(Rows("LeaderName"), 3);
+  OnDialog([this] {
+    for (const char* leftBy : {"Command1", "LeaderName", ""}) {
+      Choose("InitiativeBox", 2);
+      Choose("CommandBox", 1);
+      leftBy[0] == 0 ? Press(Qt::Key_Tab) : Click(leftBy);
+      EXPECT_EQ(TakeMessages(),
+                QStringList{"Only leaders with initiative = 7 can have 2 command points"});
+      Press(Qt::Key_Home);  // the box has kept the focus
+      EXPECT_EQ(Text("leaderCost"), "100");
+    }
+    Choose("InitiativeBox", 0);
+    EXPECT_EQ(Text("leaderCost"), "40");
+    Enter("LeaderName", "Ben & Bo");
+    Press(Qt::Key_Return);
+  });
+  Click("ShowCommandBtn", "LeaderBtn", "LeaderName(5)");
+  EXPECT_EQ(Rows("LeaderName"), 4);
+  EXPECT_EQ(Texts("LeaderName(5)", "LeaderFrame"),
+            (QStringList{"Ben && Bo 40 [ 4 / 1 ] ", " Leaders (pts left: 210)"}));
+  Work.Army.CommandPts = 100;
+  Press(Qt::Key_Up);  // 60 dearer
+  Press(Qt::Key_Up);
+  EXPECT_EQ(Text("LeaderFrame"), " Leaders (pts left: 40)");
+  Press(Qt::Key_Up);  // 50 dearer
+  EXPECT_EQ(TakeMessages(), QStringList{"Insufficient points left"});
+  EXPECT_TRUE(Ticked("LeaderName(1)"));
+}
+
+TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
+  NewArmy(0);
+  OnDialog([this] { Click("Command1"); });
+  Click("ShowUnitsBtn", "specLabel(1)");
+  EXPECT_FALSE(Find("specLabel(5)").isEnabled());  // an LG without abilities
+  Choose("ImageName(0)", 1);
+  EXPECT_EQ(Work.Army.BaseUnits[1].ChosenImage, "Punic citizen");
+  Click("ViewBtn(0)");
+  auto& picture = Find<QLabel>("PictureForm");
+  const QImage first = picture.pixmap().toImage();
+  EXPECT_FALSE(first.isNull());
+  EXPECT_EQ(picture.windowTitle(), "hi_punic_citizen");
+  Form.activateWindow();
+  Click("ViewBtn(8)");
+  EXPECT_TRUE(picture.isActiveWindow());
+  EXPECT_NE(picture.pixmap().toImage(), first);
+  const auto path = Folder / "pictures/hi_punic_citizen.svg";
+  const QString file = QString::fromStdString(path.string());
+  Folder.Write("pictures/hi_punic_citizen.svg", "no picture");
+  Click("ViewBtn(0)");
+  EXPECT_TRUE(picture.text().startsWith(file + "\n"));
+  std::filesystem::remove(path);
+  Click("ViewBtn(0)");
+  EXPECT_EQ(TakeMessages(), QStringList{"File " + file + " not found"});
+  EXPECT_EQ(Exec([this] { Form.close(); }), 0) << "the picture keeps the program";
+  Form.show();
+}
+
+TEST_F(WindowTest, TheDetailsAreThoseOfTheArmy) {
+  Click("ShowDetailBtn");
+  Fill({{"FromData", "20"}, {"ToData", "10"}});
+  for (const auto& [era, period] :
+       Pairs{{"toACBC(1)", "-20,10"}, {"FromACBC(1)", "20,10"}, {"toACBC(0)", "20,10"}}) {
+    Click(era);
+    EXPECT_EQ(Work.Header.ArmyPeriod, period) << "what begins AC ends AC";
+  }
+  const Pairs boxes = {
+      {"TYPE_IsPersonal", "P "}, {"TYPE_IsFantasy", "F "},     {"TribalCheck", " TRIBAL"},
+      {"Ferocity", " FEROCITY"}, {"Mobility", " MOBILITY"},    {"LongSword", " LONGSWORD"},
+      {"FOW", " FOW"},           {"Discipline", " DISCIPLINE"}};
+  for (const auto& [box, stored] : boxes) {
+    Click(box);
+    EXPECT_EQ(ArmyTypeCode(Work.Header) + " " + SpecialRulesText(Work.Header), stored);
+    Click(box);
+  }
+}
+
+TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndNoPeriod) {
+  Click("modOption(1)");
+  EXPECT_EQ(Text("NewArmyFile"), ".army in the folder brakka");
+  NewArmy(0);
+  EXPECT_EQ(Text("ArmyName"), "Fenmoot of Oorl");
+  Click("ShowDetailBtn");
+  EXPECT_TRUE(!Sees("HistoricTab") && Ticked("TYPE_IsFantasy"));
+  Click("ShowSaveFrame", "modOption(0)");
+  EXPECT_EQ(Work.Army.Units.TypeLabel[0].Caption, "PH") << "the army stays";
+}
+
+TEST_F(WindowTest, AnArmyIsVerifiedSavedAndReset) {
+  LoadTrebia();
+  Click("ShowUnitsBtn", "VerifyBtn", "ShowSaveFrame");
+  EXPECT_EQ(TakeMessages(), QStringList{"Army is OK"});
+  CancelNextMessage();
+  Click("SaveBtn", "QuickSave");
+  const QString question = "Do you want to replace the existing Trebia.army file ?";
+  EXPECT_EQ(TakeMessages(), (QStringList{question, question, "Army Saved"}));
+  const QString saved = QString::fromStdString(Folder.Read("Trebia.army"));
+  EXPECT_TRUE(saved.contains("=" + QDate::currentDate().toString("yyyy-MM-dd") + "\r\n"));
+  Click("ShowUnitsBtn", "ResetArmy");
+  Fill({{"Buy(1)", "2"}});  // the reset took the unit from the line; it counts for the one shown
+  EXPECT_EQ(Texts("Buy(0)", "Buy(1)", "UnitTotalLabel(1)", "TotalCost"),
+            (QStringList{"", "2", "40", "Points left: 360 of 400"}));
 }
 
 TEST_F(WindowTest, AnErrorInACheckStopsWhatWouldFollow) {
-  BuyValidArmy();
+  LoadTrebia();
   Work.Army.Command.SpecCostLabel[0].Caption = "20000";
-  Form.Refresh();
-  Hands.Enter("SpecBuy(0)", "-2");
-  EXPECT_EQ(Exec([this] { Hands.Press(Qt::Key_S, Qt::ControlModifier); }), 1);
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Run-time error: Overflow"});
+  std::filesystem::remove(Folder / "Trebia.army");
+  Click("ShowCommandBtn");
+  Enter("SpecBuy(0)", "-2");
+  EXPECT_EQ(Exec([this] { Press(Qt::Key_S, Qt::ControlModifier); }), 1);
+  EXPECT_EQ(TakeMessages(), QStringList{"Run-time error: Overflow"});
   EXPECT_FALSE(Folder.Has("Trebia.army"));
 }
 
+TEST_F(WindowTest, AnErrorAtTheStartIsItsEnd) {
+  Folder.Write("images.dat", "[IMAGES]\ntotal=99999\n");
+  Editor other(Folder.Path());
+  EXPECT_EQ(Exec([&other] { EXPECT_FALSE(other.Form.Start()); }), 1);
+  EXPECT_EQ(TakeMessages(), QStringList{"Run-time error: Overflow"});
+}
+
 TEST_F(WindowTest, AnErrorInADialogEndsTheProgram) {
-  BuyValidArmy();
-  for (int leader = 5; leader < 8; ++leader) {  // there is no option for an eighth
-    Hands.OnDialog([this] {
-      Hands.Enter("LeaderName", "Sosylos");
-      Hands.Click("Command1");
-    });
-    EXPECT_EQ(Exec([this] { Hands.Click("LeaderBtn"); }), leader < 7 ? -1 : 1);
-  }
-  EXPECT_EQ(Hands.TakeMessages(), QStringList{"Run-time error: Subscript out of range"});
+  Work.Army.LeaderCount = 7;  // there is no option for an eighth
+  OnDialog([this] {
+    Enter("LeaderName", "Sosylos");
+    Click("Command1");
+    CloseDialog();
+  });
+  Click("ShowCommandBtn");
+  EXPECT_EQ(Exec([this] { Click("LeaderBtn", "LeaderBtn", "QuickSave"); }), 1);
+  EXPECT_EQ(TakeMessages(), QStringList{"Run-time error: Subscript out of range"});
 }
 
 }  // namespace

@@ -6,13 +6,14 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLabel>
-#include <QListWidget>
-#include <QTest>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
 
 #include "support/temp_folder.h"
 #include "ui/editor.h"
@@ -27,185 +28,160 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 namespace tarnwick {
 
 /// The one application of the test program, without a display unless it is given one.
-class Application : public testing::Environment {
- public:
+struct Application : testing::Environment {
   void SetUp() override {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QApplication>(argc_, argv_);
+    Qt = std::make_unique<QApplication>(ArgumentCount, Arguments);
     ApplyStyle();
   }
-  void TearDown() override { application_.reset(); }
+  void TearDown() override { Qt.reset(); }
 
- private:
-  int argc_ = 1;
-  char name_[9] = "ui_tests";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
+  int ArgumentCount = 1;
+  char Name[9] = "ui_tests", *Arguments[2] = {Name, nullptr};
+  std::unique_ptr<QApplication> Qt;
 };
-
 inline testing::Environment* const application = testing::AddGlobalTestEnvironment(new Application);
 
-/// A program folder with the shipped catalogs; the tests save their own armies.
+/// What a user enters, and where; or does, and sees.
+using Pairs = std::initializer_list<std::pair<const char*, const char*>>;
+
+/// A program folder with the shipped catalogs and one army.
 struct ShippedFolder {
   ShippedFolder() {
     std::filesystem::copy(SHIPPED_DATA, Folder.Path(), std::filesystem::copy_options::recursive);
-    for (const char* army : {"Alesia.army", "Chaironeia.army", "Kadesh.army", "Trebia.army"})
-      std::filesystem::remove(Folder / army);
+    for (const std::string& file : Folder.Files())
+      if (file.ends_with(".army")) std::filesystem::remove(Folder / file);
+    std::filesystem::copy(TEST_DATA "/Trebia.army", Folder.Path());
   }
-
   TempFolder Folder;
 };
 
+/// The controls have the names that the state has for them.
+#define EXPECT_SHOWN(...) ExpectShown(#__VA_ARGS__, __VA_ARGS__)
+
 /// The started editor in a program folder of its own. Every test ends with a look at whether the
-/// window shows the state and whether a message was overlooked.
-struct WindowTest : testing::Test, ShippedFolder, Editor {
+/// window shows the state, whether a message was overlooked and every scripted answer used.
+struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
   WindowTest() : Editor(Folder.Path()) {}
 
   void SetUp() override {
+    OnSight([](QWidget& window) {
+      const auto* box = qobject_cast<QMessageBox*>(&window);
+      if (box == nullptr) return;
+      EXPECT_EQ(box->windowTitle(), "Velmora Tarnwick");
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
+      EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::Ok));
+    });
     ASSERT_TRUE(Form.Start());
     Form.resize(1280, 800);
     Form.show();
-    WindowDriver::Settle();
+    Settle();
   }
 
   void TearDown() override {
-    EXPECT_EQ(Hands.TakeMessages(), QStringList());
+    EXPECT_EQ(TakeMessages(), QStringList());
     if (!HasFatalFailure()) ExpectWindowShowsState();
   }
 
   /// "Carthage in Italy", "Kingdom of Pontos", "Tribes of Gaul".
   void NewArmy(int row) {
-    Hands.OnDialog([this, row] { Hands.ClickEntry("ArmyList", row, true); });
-    Hands.Click("ShowSaveFrame");
-    Hands.Click("NewArmyBtn");
+    OnDialog([this, row] { ClickEntry("ArmyList", row, true); });
+    Click("ShowSaveFrame", "NewArmyBtn");
   }
 
-  /// Clicks twice below the entries of the list "ArmyList".
-  void DoubleClickBelowArmies() {
-    const auto& list = Hands.Find<QListWidget>("ArmyList");
-    const QPoint empty(9, list.viewport()->height() - 9);
-    ASSERT_EQ(list.itemAt(empty), nullptr);
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, empty);
-  }
-
-  /// Enters a quantity, year or name and leaves the box.
-  void Enter(const QString& box, const QString& text) {
-    Hands.Enter(box, text);
-    Hands.Press(Qt::Key_Tab);
-  }
-
-  /// Carthage with the cheapest leader and just what its limits ask for, 165 of 400 points and 40
-  /// of 250 command points; to be saved as Trebia.army.
-  void BuyValidArmy() {
-    NewArmy(0);
-    Hands.Enter("ArmyFileName", "Trebia");
-    Hands.Click("ShowUnitsBtn");
-    Enter("Buy(0)", "4");
-    Enter("Buy(1)", "1");
-    Enter("Buy(6)", "3");
-    Enter("Buy(11)", "3");
-    Hands.Click("ViewOption(1)");
-    Enter("Buy(3)", "3");
-    Hands.Click("ViewOption(0)");
-    Hands.Click("ShowCommandBtn");
-    Hands.Click("LeaderName(4)");
-  }
-
-  /// What a label, button, box or frame says.
-  QString Text(const QString& name) const {
-    const QWidget& widget = Hands.Find(name);
-    for (const char* property : {"text", "title", "plainText", "currentText"}) {
-      if (widget.property(property).isValid()) return widget.property(property).toString();
+  /// Enters quantities, years or names and leaves the boxes.
+  void Fill(const Pairs& texts) {
+    for (const auto& [box, text] : texts) {
+      Enter(box, text);
+      Press(Qt::Key_Tab);
     }
-    return "<no text>";
   }
 
-  bool Ticked(const QString& name) const { return Hands.Find<QAbstractButton>(name).isChecked(); }
+  /// Carthage with the cheapest leader, a card and just what its limits ask for: 235 of 400 army
+  /// points and 200 of 250 command points are free.
+  void LoadTrebia() {
+    OnDialog([this] { ClickEntry("ArmyList", "Trebia", true); });
+    Click("ShowSaveFrame", "LoadBtn");
+  }
 
-  /// "left/spent" of the army points, and the command points.
-  std::string Points() const {
+  void ExpectWindowShowsState() const {
     const ArmyState& army = Work.Army;
-    return std::to_string(army.PointsLeft.Value()) + "/" +
-           std::to_string(army.PointsSpent.Value()) + " " + std::to_string(army.CommandPts.Value());
+    EXPECT_EQ(Form.windowTitle(), ToQt(army.Title));
+    for (const auto& [button, panel] : PanelButtons) {
+      const bool front = army.EditFrame.Front == panel;
+      EXPECT_EQ(Sees(ElementName("EditFrame", static_cast<int>(panel))), front) << button;
+      EXPECT_EQ(Ticked(button), front) << button;
+    }
+    const UnitsPanel& grid = army.Units;
+    EXPECT_SHOWN(grid.TypeLabel, grid.ClassLabel, grid.TQLabel, grid.SizeLabel, grid.MissileLabel,
+                 grid.CostLabel, grid.MaxLabel, grid.Buy, grid.UnitTotalLabel, grid.ImageName,
+                 grid.specLabel, grid.ViewBtn, grid.ViewOption, grid.TypeLimit, grid.MinLimit,
+                 grid.TotalCost, grid.TQinfo);
+    const CommandPanel& command = army.Command;
+    EXPECT_SHOWN(command.LeaderFrame, command.LeaderName, command.SpecNameLabel,
+                 command.SpecCostLabel, command.SpecMaxLabel, command.SpecBuy);
+    const ArmyHeader& header = Work.Header;
+    EXPECT_SHOWN(header.ArmyDesc, header.HistoricTab.Visible, header.FromACBC, header.toACBC,
+                 header.FromData, header.ToData, header.TYPE_IsPersonal, header.TYPE_IsFantasy,
+                 header.TribalCheck, header.Ferocity, header.Mobility, header.LongSword, header.FOW,
+                 header.Discipline);
+    EXPECT_SHOWN(army.Management.modOption, army.Management.ArmyName, army.Management.ArmyFileName,
+                 army.Monster.M_Size, army.Monster.M_TQ, army.Monster.M_Type);
+    const SetupPanel& setup = Work.Field.Setup;
+    EXPECT_SHOWN(Work.Field.Terrain.ArmyPts, Work.Field.Terrain.CommandPts, setup.setupList,
+                 setup.setupFramePanel.Visible, setup.description, setup.unit, setup.unitList);
   }
 
-  void ExpectWindowShowsState() const;
-
-  WindowDriver Hands;
+  static constexpr std::pair<const char*, Panel> PanelButtons[] = {
+      {"ShowUnitsBtn", Panel::Units},   {"ShowCommandBtn", Panel::Command},
+      {"ShowDetailBtn", Panel::Detail}, {"ShowTerrainBtn", Panel::Terrain},
+      {"ShowSetup", Panel::Setup},      {"ShowSaveFrame", Panel::Management}};
 
  private:
-  void ExpectShown(const QString& name, const std::string& text, bool visible) const {
-    const bool marks = qobject_cast<QAbstractButton*>(&Hands.Find(name)) != nullptr;
-    EXPECT_EQ(Text(name), marks ? ButtonText(text) : ToQt(text)) << name.toStdString();
-    EXPECT_EQ(Hands.Find(name).isHidden(), !visible) << name.toStdString();
+  template <typename... Controls>
+  void ExpectShown(const QString& names, const Controls&... controls) const {
+    const QStringList name = names.split(QRegularExpression(",\\s*"));
+    qsizetype i = 0;
+    (ExpectShows(QString(name[i++]).remove(".Visible").section('.', -1), controls), ...);
   }
 
-  template <typename Array>
-  void ExpectCaptions(const char* array, const Array& controls, int count) const {
-    for (int i = 0; i < count; ++i) {
-      ExpectShown(ElementName(array, i), controls[i].Caption, controls[i].Visible);
+  template <typename Control, int Last>
+  void ExpectShows(const QString& name, const Table<Control, 0, Last>& array) const {
+    for (int i = 0; i <= Last; ++i)
+      ExpectShows(ElementName(name.toLatin1(), i), array[i]);
+  }
+  template <typename Control>
+  void ExpectShows(const QString& name, const ControlArray<Control>& array) const {
+    for (int i = 0; i < array.Count(); ++i)
+      ExpectShows(ElementName(name.toLatin1(), i), array[i]);
+  }
+  void ExpectShows(const QString& name, bool visible) const {
+    EXPECT_EQ(!FindHidden(name).isHidden(), visible) << name.toStdString();
+  }
+  template <typename Control>
+  void ExpectShows(const QString& name, const Control& control) const {
+    const QWidget& widget = FindHidden(name);
+    const bool label = qobject_cast<const QLabel*>(&widget) != nullptr;
+    const auto expect = [&](const auto& shown, const auto& held) {
+      EXPECT_EQ(shown, held) << name.toStdString();
+    };
+    if constexpr (requires { control.Visible; }) ExpectShows(name, control.Visible);
+    if constexpr (requires { control.Value; }) expect(Ticked(widget), control.Value);
+    if constexpr (requires { control.Text.size(); }) expect(TextOf(widget), ToQt(control.Text));
+    if constexpr (requires { control.Caption; } && !std::is_same_v<Control, Button>) {
+      expect(TextOf(widget), label ? ToQt(control.Caption) : ButtonText(control.Caption));
     }
-  }
-
-  template <typename Array>
-  void ExpectOptions(const char* array, const Array& options, int count) const {
-    ExpectCaptions(array, options, count);
-    for (int i = 0; i < count; ++i) {
-      EXPECT_EQ(Ticked(ElementName(array, i)), options[i].Value) << array << i;
+    if constexpr (requires { control.ForeColor; }) {
+      const bool blue = widget.palette().color(QPalette::WindowText) == QColor(0x55, 0x55, 0xFF);
+      if (label) expect(blue, control.ForeColor == Colour::LightBlue);
+    }
+    if constexpr (requires { control.Entries; }) {
+      QStringList texts;
+      for (const ListEntry& entry : control.Entries)
+        texts.append(ToQt(entry.Text));
+      expect(EntriesOf(widget), std::pair(texts, control.ListIndex));
     }
   }
 };
-
-inline void WindowTest::ExpectWindowShowsState() const {
-  const ArmyState& army = Work.Army;
-  const UnitsPanel& units = army.Units;
-  EXPECT_EQ(Form.windowTitle(), ToQt(army.Title));
-  const std::pair<const char*, const UnitsPanel::Column<Label>*> columns[] = {
-      {"TypeLabel", &units.TypeLabel},       {"ClassLabel", &units.ClassLabel},
-      {"TQLabel", &units.TQLabel},           {"SizeLabel", &units.SizeLabel},
-      {"MissileLabel", &units.MissileLabel}, {"CostLabel", &units.CostLabel},
-      {"MaxLabel", &units.MaxLabel},         {"UnitTotalLabel", &units.UnitTotalLabel},
-      {"specLabel", &units.specLabel}};
-  for (const auto& [name, column] : columns)
-    ExpectCaptions(name, *column, 23);
-  ExpectCaptions("TypeLimit", units.TypeLimit, 7);
-  ExpectCaptions("MinLimit", units.MinLimit, 7);
-  for (int k = 0; k < 23; ++k) {
-    ExpectShown(ElementName("Buy", k), units.Buy[k].Text, units.Buy[k].Visible);
-    ExpectShown(ElementName("ImageName", k), units.ImageName[k].Text(), units.ImageName[k].Visible);
-    EXPECT_EQ(Hands.Find(ElementName("ViewBtn", k)).isHidden(), !units.ViewBtn[k].Visible) << k;
-  }
-  ExpectShown("TotalCost", units.TotalCost.Caption, true);
-  ExpectShown("TQinfo", units.TQinfo.Caption, true);
-  ExpectShown("LeaderFrame", army.Command.LeaderFrame.Caption, true);
-  ExpectOptions("ViewOption", units.ViewOption, 3);
-  ExpectOptions("LeaderName", army.Command.LeaderName, 7);
-  ExpectOptions("modOption", army.Management.modOption, 2);
-  ExpectOptions("FromACBC", Work.Header.FromACBC, 2);
-  ExpectOptions("toACBC", Work.Header.toACBC, 2);
-  const int cards = army.Command.SpecNameLabel.Count();
-  ExpectCaptions("SpecNameLabel", army.Command.SpecNameLabel, cards);
-  ExpectCaptions("SpecCostLabel", army.Command.SpecCostLabel, cards);
-  ExpectCaptions("SpecMaxLabel", army.Command.SpecMaxLabel, cards);
-  for (int j = 0; j < army.Command.SpecBuy.Count(); ++j) {
-    ExpectShown(ElementName("SpecBuy", j), army.Command.SpecBuy[j].Text,
-                army.Command.SpecBuy[j].Visible);
-  }
-  ExpectShown("ArmyName", army.Management.ArmyName.Text, true);
-  ExpectShown("ArmyFileName", army.Management.ArmyFileName.Text, true);
-  ExpectShown("FromData", Work.Header.FromData.Text, true);
-  ExpectShown("ToData", Work.Header.ToData.Text, true);
-  ExpectShown("ArmyDesc", Work.Header.ArmyDesc.Text, true);
-  EXPECT_EQ(Ticked("TYPE_IsFantasy"), Work.Header.TYPE_IsFantasy.Value);
-  ExpectShown("ArmyPts", Work.Field.Terrain.ArmyPts.Caption, true);
-  ExpectShown("CommandPts", Work.Field.Terrain.CommandPts.Caption, true);
-  ExpectCaptions("unit", Work.Field.Setup.unit, 9);
-  for (int i = 0; i < 9; ++i) {
-    Hands.Find(ElementName("assignBtn", i));
-    Hands.Find(ElementName("Area", i));
-    Hands.Find(ElementName("TerrImg", i % 6));
-  }
-  ExpectShown("description", Work.Field.Setup.description.Text, true);
-}
 
 }  // namespace tarnwick
