@@ -49,6 +49,7 @@ Lines Seen(const ArmyState& army) {
 void ExpectRoundTrips(const TempFolder& folder, bool brakka) {
   Desk desk(folder.Path());
   desk.ChooseModule(brakka ? 1 : 0);
+  const char* const file = brakka ? "brakka/x.army" : "x.army";
   ArmySelectionForm bases;
   FillArmySelection(desk.Army, desk.Store, bases);
   EXPECT_FALSE(bases.ArmyList.Entries.empty());
@@ -58,7 +59,6 @@ void ExpectRoundTrips(const TempFolder& folder, bool brakka) {
       desk.NewArmy(base);
       BuyAll(desk, horseFirst);
       const Lines seen = Seen(desk.Army);
-      const std::string file = brakka ? "brakka/x.army" : "x.army";
       desk.Army.Management.ArmyFileName.Text = "x";
       desk.Army.TotLimits = 0;
       EXPECT_EQ(desk.Save(), "Army Saved");

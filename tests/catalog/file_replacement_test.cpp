@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/file_replacement.h"
 
-#include "support/full_disk.h"
+#include <csignal>
+#include <sys/resource.h>
+
 #include "support/temp_folder.h"
 
 namespace tarnwick {
@@ -31,11 +33,16 @@ TEST(ReplaceFile, KeepsLinksAndPermissionsAndNothingOpen) {
 TEST(ReplaceFile, AFailureLeavesTheTargetAndNamesIt) {
   const TempFolder folder;
   folder.Write("a.army", "old");
+  rlimit before;
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full = {0, before.rlim_max};  // no file can take a byte
+  std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &full);
   for (const std::size_t size : {1U, 1000000U}) {
-    const FullDisk full;
     EXPECT_THROW(ReplaceFile(folder / "a.army", std::string(size, 'x'), Durability::Scratch),
                  FileError);
   }
+  setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(folder.Read("a.army"), "old");
   EXPECT_EQ(folder.Files(), Lines{"a.army"});
   const auto none = (folder / "none/a").string();

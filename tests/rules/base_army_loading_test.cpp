@@ -45,8 +45,9 @@ TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
   TickOption(sample.Command.LeaderName, 0);
   sample.Load("Small");
   EXPECT_EQ(Summary(sample), "70|70/0|0|1|1|3|0");
-  EXPECT_EQ(state.Management.ArmyName.Text, "Mine");
-  EXPECT_EQ(Joined(unit.UnitType, unit.Bought, state.BaseUnits[2].UnitType), "MI|0|");
+  EXPECT_EQ(Joined(state.Management.ArmyName.Text, unit.UnitType, unit.Bought,
+                   state.BaseUnits[2].UnitType),
+            "Mine|MI|0|");
   EXPECT_EQ(Shown(units.TypeLimit, 7), "MI|-|-|-|-|-|-|");
   EXPECT_EQ(Shown(units.MinLimit, 7), "1|-|-|-|-|-|-|");
   // A missing leader's button and those behind it stay as they were; the count hides the rest.
@@ -70,7 +71,6 @@ TEST(LoadBaseArmy, ARowThatBreaksTheRulesEndsItQuietly) {
   const std::string two = good + "tot_units=2\nunit1=MI,,3,1,,5,9,\nunit2=";
   const std::pair<std::string, const char*> cases[] = {
       {good + Rows("tot_units", "unit", 201, "HI,,3,1,,5,9,"), "70|70/0|9|200|0|0|0"},
-      {two + "HI,,3,1,,,9,", "70|70/0|9|1|0|0|0"},
       {two + "HI,,3,1,,5,many,", "70|70/0|9|1|0|0|0"},
       {two + "HI,,3,1,,5,9,\ntot_limits=-1\ntot_leader=-1\ntot_special=-1", "70|70/0|9|2|0|0|0"},
       // What comes behind the fault stays as the army before had it.

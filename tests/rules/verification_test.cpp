@@ -36,19 +36,16 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
     std::map<int, int> Bought;
     std::string Message;
   } cases[] = {
-      {"1\nlimit1=HC,2\n", {{6, 1}}, atLeast + "2 units of type HC"},
       {"1\nlimit1=LI+LP,4\n", {{1, 2}, {2, 1}}, atLeast + "4 units of type LI or LP"},
       {"1\nlimit1=LI+LI,4\n", {{1, 2}}, ""},           // counted for either name
       {"1\nlimit1=LI+LP,4\n", {{1, 5}, {2, -3}}, ""},  // what is below 0 counts as none
       // Types that a class splits.
       {"1\nlimit1=HI,2\n", {{3, 1}, {4, 5}}, atLeast + "2 units of type HI"},
-      {"1\nlimit1=HI,2,y\n", {{3, 5}, {4, 2}}, ""},
       {"1\nlimit1=CO,1,Vet\n", {{8, 5}}, atLeast + "1 units of class Vet"},
       // A class limit counts the alternative, of no class, and does not name it.
       {"1\nlimit1=CO+HI,3,Vet\n", {{5, 1}, {3, 2}}, ""},
       {"1\nlimit1=CO+HI,3,Vet\n", {{5, 1}, {4, 2}}, atLeast + "3 units of class Vet"},
-      // All that the classification does not know is counted together.
-      {"1\nlimit1=SM,3\n", {{7, 1}, {8, 2}}, ""},
+      {"1\nlimit1=SM,3\n", {{7, 1}, {8, 2}}, ""},  // what the classes don't know is one
       // In the order of the limits, and before the leader.
       {"3\nlimit1=HI,1\nlimit2=HC,1\nlimit3=LI,1\n", {{3, 1}}, atLeast + "1 units of type HC"},
       {"1\nlimit1=HC,0\n", {}, ""}};

@@ -1,9 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include <QIcon>
 #include <QListWidget>
 #include <QTest>
@@ -11,7 +7,6 @@
 #include "ui_fixture.h"
 
 namespace tarnwick {
-namespace {
 
 struct BattlefieldTest : WindowTest {
   void ExpectTerrain(const QString& kinds, const QString& armyPts, const QString& commandPts) {
@@ -135,5 +130,4 @@ TEST_F(BattlefieldTest, TheBrowserRefusesANewerFileAndLoadsByADoubleClick) {
   EXPECT_EQ(Text("TotalCost"), "Points left: 235 of 400");
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -1,18 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <filesystem>
-#include <functional>
-#include <string>
-#include <tuple>
-
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 
 #include "ui_fixture.h"
 
 namespace tarnwick {
-namespace {
 
 /// A box that is checked when it is left, on a panel of a valid army.
 struct Box {
@@ -105,5 +97,4 @@ TEST_F(EntryGuardTest, ChecksAnEntryBeforeAnythingElseHappens) {
   }
 }
 
-}  // namespace
 }  // namespace tarnwick

@@ -1,14 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <string>
-#include <utility>
-
-#include <gtest/gtest.h>
-
 #include "ui_fixture.h"
 
 namespace tarnwick {
-namespace {
 
 TEST_F(WindowTest, SaysWhatItSaysWhereItSaysIt) {
   EXPECT_EQ(Form.focusWidget()->objectName(), "NewArmyBtn");
@@ -101,5 +95,4 @@ TEST_F(WindowTest, TextBoxesTakeWhatAFileCanHold) {
   EXPECT_EQ(Text("ArmyDesc"), lines.left(253));
 }
 
-}  // namespace
 }  // namespace tarnwick

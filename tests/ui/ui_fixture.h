@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
+#include <functional>
 #include <memory>
-#include <ostream>
-#include <string>
-#include <type_traits>
-
-#include <gtest/gtest.h>
+#include <tuple>
 
 #include <QApplication>
 #include <QMessageBox>
@@ -48,7 +44,7 @@ using Pairs = std::initializer_list<std::pair<const char*, const char*>>;
 /// A program folder with the shipped catalogs and one army.
 struct ShippedFolder {
   ShippedFolder() {
-    std::filesystem::copy(SHIPPED_DATA, Folder.Path(), std::filesystem::copy_options::recursive);
+    Folder.Copy(SHIPPED_DATA);
     for (const std::string& file : Folder.Files())
       if (file.ends_with(".army")) std::filesystem::remove(Folder / file);
     std::filesystem::copy(TEST_DATA "/Trebia.army", Folder.Path());
