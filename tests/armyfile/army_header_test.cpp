@@ -82,9 +82,9 @@ TEST_F(HeaderTest, APeriodIsShownInItsBoxes) {
 }
 
 TEST_F(HeaderTest, TypeAndRulesComeFromTheFile) {
-  for (const std::string type : {"xPF", "F", "P", "fp"}) {
-    TakeArmyType(Header, type);
-    EXPECT_EQ(ArmyTypeCode(Header), type == "xPF" ? "FP" : type == "fp" ? "" : type);
+  for (const std::string type : {"", "F", "P", "FP"}) {
+    TakeArmyType(Header, "xf" + type);
+    EXPECT_EQ(ArmyTypeCode(Header), type);
   }
   const std::pair<std::string, const char*> cases[] = {
       {"FOW,DISCIPLINE,TRIBAL,FEROCITY,MOBILITY,LONGSWORD",

@@ -38,7 +38,6 @@ TEST_F(Loading, BringsBackTheWholeArmy) {
   Header.Ferocity.Value = Header.FOW.Value = true;
   Folder.Write("working.setup", "[SETUP 1]\ndescription=old\n");
   Load(file);
-  EXPECT_EQ(Host.Heard(), Lines());
   // 500 - 36 - 30 of a slope; 200 - 150 - 8 of three cards (7.5) + 8 of minus one card - 5
   EXPECT_EQ(Bought(), "2|1|0|434|36|45");
   EXPECT_EQ(Army.Units.TotalCost.Caption, "Points left: 434 of 500");

@@ -73,10 +73,4 @@ TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
   EXPECT_EQ(Area(2), "CAMP|2|2");
 }
 
-TEST_F(Terrain, AnUnknownKindEndsTheLoading) {
-  EXPECT_THROW(Load("area1=\narea2=wood\narea9=CLIFF\n"), SubscriptError);
-  EXPECT_EQ(Joined(Field.AreaTerrain[0], Field.AreaTerrain[1], Field.AreaTerrain[8], Points()),
-            "CLEAR|wood|CLEAR|0|0");
-}
-
 }  // namespace tarnwick

@@ -27,8 +27,7 @@ TEST(ImageCatalog, HasTheModulesRowsFirstAndThePicturesOfTheProgramFolder) {
   EXPECT_EQ(load(false, "Tyre"), "a;b;d;;e;");
   EXPECT_EQ(load(false, ""), "a;b;");
   const ImageRec& first = catalog.Images[1];
-  EXPECT_EQ(first.Name, "Name");
-  EXPECT_TRUE(PictureFits(first, "HI", "Vet", "J"));
+  EXPECT_TRUE(first.Name == "Name" && PictureFits(first, "HI", "Vet", "J"));
   EXPECT_FALSE(PictureFits(first, "MI", "Vet", "J") || PictureFits(first, "HI", "", "J") ||
                PictureFits(first, "HI", "Vet", "j"));
   folder.Write("images.dat", "[IMAGES]\ntotal=200\n");

@@ -28,7 +28,6 @@ TEST(ProfileText, IsReadAsThePlatformReadsIt) {
       {"[s]\n[s]\nk=1\n", "s", "k"},
       // A section's name ends at the first bracket, or with the line; it may be none.
       {"[s] k=0\nk=1\n", "s", "k=1"},
-      {"[s]t]\nk=1\n", "s", "k=1"},
       {"[s\nk=1\n", "s", "k=1"},
       {" [s ;\nk=1\n", "s ;", "k=1"},
       {";[s]\nk=0\n[s]\n;[s]\n ;[s]\nk=1\n", "s", "k=1"},

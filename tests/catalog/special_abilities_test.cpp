@@ -3,18 +3,12 @@
 #include "catalog/special_abilities.h"
 
 #include "base/text.h"
-#include "support/temp_folder.h"
+#include "support/testing.h"
 
 namespace tarnwick {
 
 TEST(SpecialAbilities, TenCodesAreLookedAtAndTheFirstGapEndsTheList) {
-  const TempFolder folder;
-  folder.Write("specials.dat",
-               "[Riders]\nspecial=FAST+MOUNTED\n[Lower]\nspecial=mounted\n"
-               "[Gap]\nspecial=FAST++MOUNTED\n[Unknown]\nspecial=FAST+RIDDLE+MOUNTED\n"
-               "[Many]\nspecial=A+A+A+A+A+A+A+A+A+MOUNTED+FAST\n"
-               "[SPECIALS]\nFAST=Moves twice\nMOUNTED=Rides\nA=1\n");
-  const Disk disk(folder.Path());
+  const Disk disk(TEST_DATA "/rules");
   const SpecialAbilities abilities(disk);
   const struct {
     const char* Group;

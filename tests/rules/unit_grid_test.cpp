@@ -65,7 +65,6 @@ TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
   EXPECT_EQ(Units.ImageName[0].Entries,
             (std::vector<ListEntry>{{"Old", 1}, {"Older", 3}, {"Oldest", 6}}));
   EXPECT_EQ(Joined(Units.ImageName[2].Entries.size(), State.BaseUnits[4].ChosenImageIdx), "0|0");
-  EXPECT_EQ(Entries(Units.ImageName[3]), Lines{"Javelin"});
   EXPECT_EQ(chosen(), "Old|Old|1");
   Units.ImageName[0].ListIndex = 2;
   ImageName_Click(State, 0);
@@ -94,8 +93,6 @@ TEST_F(Grid, ButtonsShowPictureAndAbilities) {
   EXPECT_EQ(Host.Pictures, std::vector{Folder / "v1.svg"});
   EXPECT_EQ(view(2), Lines{});  // no picture fits
   EXPECT_EQ(view(1), Lines{"File " + (Folder / "s.svg").string() + " not found"});
-  State.BrakkaMode = true;
-  EXPECT_EQ(view(1), Lines{"File " + (Folder / "brakka/s.svg").string() + " not found"});
 
   int shown = 0;
   Host.OnSpecForm = [&] { shown = State.SpecUnitRow.Value(); };

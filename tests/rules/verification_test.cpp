@@ -39,7 +39,6 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
       {"1\nlimit1=LI+LP,4\n", {{1, 2}, {2, 1}}, atLeast + "4 units of type LI or LP"},
       {"1\nlimit1=LI+LI,4\n", {{1, 2}}, ""},           // counted for either name
       {"1\nlimit1=LI+LP,4\n", {{1, 5}, {2, -3}}, ""},  // what is below 0 counts as none
-      // Types that a class splits.
       {"1\nlimit1=HI,2\n", {{3, 1}, {4, 5}}, atLeast + "2 units of type HI"},
       {"1\nlimit1=CO,1,Vet\n", {{8, 5}}, atLeast + "1 units of class Vet"},
       // A class limit counts the alternative, of no class, and does not name it.
@@ -54,10 +53,7 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
 }
 
 TEST(VerifyArmy, ReadsTheLimitLinesAsTheyStand) {
-  SampleState sample(
-      "Sample",
-      "[Sample]\ntot_limits=2\nlimit1=HI,1\nlimit2=HC,1\ntot_units=2\nunit1=SM,,3,1,,5,9,\n"
-      "unit2=HC,,3,1,,5,9,\n");
+  SampleState sample("Limits As They Stand");
   ArmyState& state = sample.State;
   state.Units.TypeLimit[0].Tag = "2";
   state.Units.MinLimit[0].Caption = "1.5 men";

@@ -13,8 +13,6 @@
 #include "base/errors.h"
 #include "base/int16.h"
 
-// What every test uses.
-
 namespace tarnwick {
 
 /// What a host has heard, or a list shows, as tests spell it.

@@ -32,8 +32,8 @@ TEST_F(WindowTest, ANewArmyIsChosenInTheDialog) {
   Click("NewArmyBtn");
   EXPECT_EQ(Text("ArmyName"), "Kingdom of Pontos");
   EXPECT_EQ(Form.windowTitle(), "Velmora Tarnwick ver 1.2.1 ");
-  EXPECT_EQ(std::tuple(Rows("LeaderName"), Rows("Buy"), Rows("TypeLimit"), Rows("MinLimit")),
-            std::tuple(6, 15, 5, 5));
+  EXPECT_EQ(Joined(Rows("LeaderName"), Rows("Buy"), Rows("TypeLimit"), Rows("MinLimit")),
+            "6|15|5|5");
   Click("ShowUnitsBtn");
   Fill({{"Buy(0)", "2"}});
   Click("ViewOption(1)");

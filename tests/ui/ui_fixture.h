@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <tuple>
 
 #include <QApplication>
 #include <QMessageBox>
