@@ -163,6 +163,7 @@ QString WindowDriver::Picture(const QString& name) const {
 }
 
 void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
+  if (!widget.isEnabled()) Fail(widget.objectName() + " is idle");
   const QPoint there = widget.mapTo(widget.window(), position);
   const QWidget* hit = widget.window()->childAt(there);
   if (hit != &widget && !widget.isAncestorOf(hit)) {

@@ -52,6 +52,7 @@ void ExpectRoundTrips(const TempFolder& folder, bool brakka) {
   const char* const file = brakka ? "brakka/x.army" : "x.army";
   ArmySelectionForm bases;
   FillArmySelection(desk.Army, desk.Store, bases);
+  EXPECT_FALSE(bases.ArmyList.Entries.empty());
   for (const std::string& base : Entries(bases.ArmyList)) {
     for (const bool horseFirst : {false, true}) {
       SCOPED_TRACE(base);
@@ -62,6 +63,7 @@ void ExpectRoundTrips(const TempFolder& folder, bool brakka) {
       desk.Army.TotLimits = 0;
       EXPECT_EQ(desk.Save(), "Army Saved");
       const std::string bytes = folder.Read(file);
+      EXPECT_NE(bytes.find("\nunit1="), std::string::npos);
       desk.Load("x");
       EXPECT_EQ(desk.Host.Heard(), Lines());
       EXPECT_EQ(Seen(desk.Army), seen);

@@ -22,7 +22,6 @@ TEST_F(Saving, WritesTheWholeArmy) {
   std::filesystem::remove(Folder / "Tyre.army");
   EXPECT_EQ(Save(), "Army Saved");
   EXPECT_EQ(Saved(), file);
-  EXPECT_EQ(Header.ArmyFile, "Tyre");
 
   ClearSpecialRules(Header);
   Army.BaseUnits[1].Bought = 1;

@@ -12,8 +12,7 @@ namespace tarnwick {
 
 TEST(Int16, ResultsReachBothEndsAndNoFurther) {
   Int16 top = Int16() + 32766, bottom = Int16(256) * -128;
-  EXPECT_EQ(++top, 32767);
-  EXPECT_EQ(bottom, -32768);
+  EXPECT_TRUE(++top == 32767 && bottom == -32768);
   EXPECT_THROW(Int16(32768), OverflowError);
   EXPECT_THROW(Int16(-32769), OverflowError);
   EXPECT_THROW(-bottom, OverflowError);

@@ -65,19 +65,19 @@ TEST_F(Setups, ANewSetupIsWrittenWithThePlacesShownBeforeIt) {
 
 TEST_F(Setups, ShowingASetupWritesNothing) {
   const std::string stored =
-      "[SETUP 3]\r\ndescription=\"  a\\nb \"\r\nfield9=SK,,4,2,J\r\n; mine\r\n";
+      "[SETUP 3]\r\ndescription=\"  a\\nb \"\r\nfield1=EL\r\nfield9=SK,,4,2,J\r\n; mine\r\n";
   Folder.Write("working.setup", stored);
   Panel.setupList.Entries = {{"3", 0}, {"4", 0}};
   const auto shown = [this](int entry) {
     Panel.setupList.ListIndex = entry;
     setupList_Click(Field, State, Store);
     return Joined(Field.CurrentSetup, Panel.setupFramePanel.Visible, Panel.description.Text,
-                  Panel.unit[8].Caption);
+                  Panel.unit[0].Caption, Panel.unit[8].Caption);
   };
-  EXPECT_EQ(shown(-1), "0|0|<insert the setup description here>|");
-  EXPECT_EQ(shown(0), "3|1|a\r\nb|SK,,4,2,J");
+  EXPECT_EQ(shown(-1), "0|0|<insert the setup description here>||");
+  EXPECT_EQ(shown(0), "3|1|a\r\nb|EL|SK,,4,2,J");
   EXPECT_EQ(Listed(), Lines{"HI,,4,2,J"});  // of two rows alike neither is listed
-  EXPECT_EQ(shown(1), "4|1||");
+  EXPECT_EQ(shown(1), "4|1|||");
   ShowSetup_Click(Field, State);
   EXPECT_FALSE(Panel.setupFramePanel.Visible || State.SetupLoading);
   EXPECT_EQ(State.EditFrame.Front, tarnwick::Panel::Setup);

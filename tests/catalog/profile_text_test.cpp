@@ -25,7 +25,6 @@ TEST(ProfileText, IsReadAsThePlatformReadsIt) {
       // The first section of a name counts.
       {"k=0\n[s]\na=1\n[t]\nb=2\n[S]\nc=3\na=4\n", "s", "k|a=1|b|c"},
       {"[s]\nx=[t]\n y= [t]\nz[t]\na=1\n", "s", "x=[t]|y=[t]|a=1"},
-      {"[s]\n[s]\nk=1\n", "s", "k"},
       // A section's name ends at the first bracket, or with the line; it may be none.
       {"[s] k=0\nk=1\n", "s", "k=1"},
       {"[s\nk=1\n", "s", "k=1"},

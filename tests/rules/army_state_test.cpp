@@ -10,8 +10,7 @@ TEST(ArmyState, StartsWithTheDesignsTexts) {
   ArmyState state;
   InitializeVariables(state, Disk("/games"));
   const CommandPanel& command = state.Command;
-  EXPECT_EQ(state.ArmyListFile, "/games/armylist.dat");
-  EXPECT_EQ(state.SelectedLeader, -1);
+  EXPECT_TRUE(state.ArmyListFile == "/games/armylist.dat" && state.SelectedLeader == -1);
   EXPECT_EQ(Shown(state.Units.ViewOption, 3), "Infantry|Mounted|Buy|");
   EXPECT_EQ(Shown(state.Management.modOption, 2), "Velmora|Brakka|");
   EXPECT_TRUE(state.Units.ViewOption[0].Value && state.Management.modOption[0].Value);

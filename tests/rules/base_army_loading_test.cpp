@@ -51,8 +51,9 @@ TEST(LoadBaseArmy, FillsTheStateAndForgetsTheArmyBefore) {
 
 TEST(LoadBaseArmy, AMissingUnitLeavesNone) {
   SampleState sample("Gaps");
-  EXPECT_EQ(sample.Host.Heard(), Lines{"Army unit 2 not found"});
-  EXPECT_EQ(Summary(sample), "100|100/0|0|0|2|0|2");
+  EXPECT_EQ(sample.Host.Heard(), (Lines{"Leader # 1 not present", "Army unit 2 not found"}));
+  EXPECT_EQ(Summary(sample), "100|100/0|0|0|2|1|2");
+  EXPECT_EQ(Shown(sample.Command.LeaderName, 2), "Option1|-|");
   EXPECT_EQ(Shown(sample.Units.MinLimit, 3), "0|1|-|");  // limits and cards miss rows silently
   EXPECT_EQ(Shown(sample.Command.SpecNameLabel, 2), "|RALLY|");
   EXPECT_EQ(Shown(sample.Units.TypeLabel, 1), "-|");
@@ -61,6 +62,7 @@ TEST(LoadBaseArmy, AMissingUnitLeavesNone) {
 TEST(LoadBaseArmy, ARowThatBreaksTheRulesEndsItQuietly) {
   const std::pair<const char*, const char*> cases[] = {
       {"Too Many Units", "70|70/0|9|200|0|0|0"},
+      {"Price in Words", "70|70/0|9|1|0|0|0"},
       {"Maximum in Words", "70|70/0|9|1|0|0|0"},
       {"Negative Counts", "70|70/0|9|2|0|0|0"},
       // What comes behind the fault stays as the army before had it.

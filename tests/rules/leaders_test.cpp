@@ -22,9 +22,11 @@ TEST_F(LeaderChoice, IsPaidAndChangedForTheDifference) {
   const struct {
     int PointsLeft, Clicked;
     const char* Choice;
-  } clicks[] = {{160, 2, "-1||160"}, {160, 0, "0|0|10"}, {10, 1, "1|1|120"}, {120, 1, "1|1|120"},
-                {109, 0, "1|1|109"}, {110, 0, "0|0|0"},  // An army from a file may have overspent;
-                {-50, 1, "1|1|60"}};                     // a refund is still taken.
+  } clicks[] = {
+      {160, 2, "-1||160"}, {160, 0, "0|0|10"}, {10, 1, "1|1|120"}, {120, 1, "1|1|120"},
+      {109, 0, "1|1|109"}, {110, 0, "0|0|0"},  {-50, 1, "1|1|60"}};  // a file's army may have
+                                                                     // overspent; a refund is still
+                                                                     // taken
   for (const auto& click : clicks) {
     State.CommandPts = click.PointsLeft;
     TickOption(Command.LeaderName, click.Clicked);  // as the window has done by then

@@ -90,8 +90,8 @@ TEST_F(Grid, ButtonsShowPictureAndAbilities) {
   };
   Folder.Write("v1.svg", "");
   EXPECT_EQ(view(0), Lines{});
-  EXPECT_EQ(Host.Pictures, std::vector{Folder / "v1.svg"});
   EXPECT_EQ(view(2), Lines{});  // no picture fits
+  EXPECT_EQ(Host.Pictures, std::vector{Folder / "v1.svg"});
   EXPECT_EQ(view(1), Lines{"File " + (Folder / "s.svg").string() + " not found"});
 
   int shown = 0;

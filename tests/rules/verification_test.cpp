@@ -44,7 +44,7 @@ TEST(VerifyArmy, ReportsTheFirstFailure) {
       // A class limit counts the alternative, of no class, and does not name it.
       {"1\nlimit1=CO+HI,3,Vet\n", {{5, 1}, {3, 2}}, ""},
       {"1\nlimit1=CO+HI,3,Vet\n", {{5, 1}, {4, 2}}, atLeast + "3 units of class Vet"},
-      {"1\nlimit1=SM,3\n", {{7, 1}, {8, 2}}, ""},  // what the classes don't know is one
+      {"1\nlimit1=SM,3\n", {{7, 1}, {8, 2}}, ""},  // types without a code count as one kind
       // In the order of the limits, and before the leader.
       {"3\nlimit1=HI,1\nlimit2=HC,1\nlimit3=LI,1\n", {{3, 1}}, atLeast + "1 units of type HC"},
       {"1\nlimit1=HC,0\n", {}, ""}};

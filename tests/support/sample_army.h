@@ -23,7 +23,7 @@ struct Desk {
     NewArmyBtn_Click(Work, Store, Host);
   }
 
-  /// The user loads an army; "" closes the browser without a choice.
+  /// The user loads an army.
   void Load(const std::string& name) {
     Host.OnArmyListForm = [this, name] { Work.Header.ArmyFile = name; };
     LoadBtn_Click(Work, Store, Host);
@@ -53,7 +53,6 @@ struct Desk {
 /// A folder with small catalogs for both modules.
 struct SampleFolder {
   SampleFolder() { Folder.Copy(TEST_DATA "/sample"); }
-
   TempFolder Folder;
 };
 

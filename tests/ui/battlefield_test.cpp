@@ -12,7 +12,7 @@ struct BattlefieldTest : WindowTest {
   void ExpectTerrain(const QString& kinds, const QString& armyPts, const QString& commandPts) {
     QStringList areas;
     for (const std::string& kind : Work.Field.AreaTerrain)
-      areas.append(ToQt(kind.substr(0, 2)));
+      areas.append(ToQt(kind.substr(0, 3)));
     EXPECT_EQ(areas.join(" "), kinds);
     EXPECT_EQ(Texts("ArmyPts", "CommandPts"), (QStringList{armyPts, commandPts}));
   }
@@ -32,7 +32,7 @@ TEST_F(BattlefieldTest, PiecesAreDraggedOrPickedAndPutDown) {
   Drag("TerrImg(2)", "Area(4)", [&] { held = Look("Area(4)"); });
   EXPECT_FALSE(held.isNull() || held == before) << "a piece is held over it";
   Drag("TerrImg(4)", "Area(3)");
-  ExpectTerrain("CL CL CL MO CA CL CL CL CL", "125", "175");
+  ExpectTerrain("CLE CLE CLE MOU CAM CLE CLE CLE CLE", "125", "175");
   Drag("TerrImg(5)", "Area(0)");
   EXPECT_EQ(TakeMessages(), QStringList{"Not enough points"});
   Drag("TerrImg(0)", "Area(4)");
@@ -40,7 +40,7 @@ TEST_F(BattlefieldTest, PiecesAreDraggedOrPickedAndPutDown) {
   // Let go beside the areas, nothing is put down; a drag is no click that picks.
   Drag("TerrImg(3)", "ArmyPts");
   Click("Area(8)");
-  ExpectTerrain("CL CL CL MO CL CL CL CL CL", "185", "185");
+  ExpectTerrain("CLE CLE CLE MOU CLE CLE CLE CLE CLE", "185", "185");
 
   Click("TerrImg(3)", "Area(0)", "Area(1)");     // put down already
   Click("TerrImg(4)", "TerrImg(4)", "Area(2)");  // put back
@@ -51,7 +51,7 @@ TEST_F(BattlefieldTest, PiecesAreDraggedOrPickedAndPutDown) {
   Press(Qt::Key_Escape);
   EXPECT_NE(Look("TerrImg(2)"), picked);
   Click("Area(2)");
-  ExpectTerrain("WO CL CL MO CL CL CL CL SL", "135", "180");
+  ExpectTerrain("WOO CLE CLE MOU CLE CLE CLE CLE SLO", "135", "180");
 }
 
 TEST_F(BattlefieldTest, TilesShowTheirTerrain) {

@@ -11,7 +11,7 @@ struct Box {
   const char *Name, *PanelButton, *Refused, *Complaint, *Accepted, *Saved, *NextBox, *Option;
 };
 
-const Box boxes[] = {
+const Box guardedBoxes[] = {
     {"Buy(1)", "ShowUnitsBtn", "5", "You can only buy 4 units", "2", "points=185\r", "Buy(2)",
      "ViewOption(1)"},
     {"SpecBuy(1)", "ShowCommandBtn", "5", "You can only buy 4 cards", "2", "flank=2\r",
@@ -70,7 +70,7 @@ TEST_F(EntryGuardTest, ChecksAnEntryBeforeAnythingElseHappens) {
   Click("ShowDetailBtn");
   Fill({{"FromData", "0"}, {"ToData", "0"}});
   const WorkingArmy valid = Work;
-  for (const Box& box : boxes) {
+  for (const Box& box : guardedBoxes) {
     for (const auto& [way, leave, done] : ways) {
       SCOPED_TRACE(std::string(box.Name) + " by " + way);
       std::filesystem::remove(Folder / "Trebia.army");
