@@ -27,12 +27,14 @@ void InitializeVariables(ArmyState& state, const Disk& disk) {
     state.Command.LeaderName[i].Visible = false;
   }
 
-  state.Command.LeaderFrame.Caption = "Leaders ";
-  state.Command.LeaderName[0].Caption = "Option1";
-  state.Command.SpecNameLabel[0] = {.Caption = "Card", .Tag = "", .Visible = false};
-  state.Command.SpecCostLabel[0].Visible = false;
-  state.Command.SpecMaxLabel[0] = {.Caption = "0", .Tag = "", .Visible = false};
-  state.Command.SpecBuy[0] = {.Text = "", .Tag = "0", .Visible = false};
+  CommandPanel& command = state.Command;
+  command.LeaderFrame.Caption = "Leaders ";
+  command.LeaderName[0].Caption = "Option1";
+  command.SpecNameLabel[0].Caption = "Card";
+  command.SpecMaxLabel[0].Caption = "0";
+  command.SpecBuy[0].Tag = "0";
+  command.SpecNameLabel[0].Visible = command.SpecCostLabel[0].Visible = false;
+  command.SpecMaxLabel[0].Visible = command.SpecBuy[0].Visible = false;
 
   state.Management.modOption[0].Caption = "Velmora";
   state.Management.modOption[1].Caption = "Brakka";

@@ -60,17 +60,17 @@ TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
 
 TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
   State.PointsLeft = 99;
-  Drop(3, 2);
+  Drop(3, 0);
   ClearAreas(Field);
-  EXPECT_EQ(Joined(Points(), Area(2)), "79|0|CLEAR|3|3");
+  EXPECT_EQ(Joined(Points(), Area(0)), "79|0|CLEAR|3|3");
   State.CommandPts = 7;
   ShowTerrainBtn_Click(Field, State);
-  EXPECT_EQ(Area(2), "CLEAR|0|3");
+  EXPECT_EQ(Area(0), "CLEAR|0|3");
   EXPECT_EQ(Joined(Field.Terrain.ArmyPts.Caption, Field.Terrain.CommandPts.Caption), "79|7");
   EXPECT_EQ(State.EditFrame.Front, Panel::Terrain);
-  Field.AreaTerrain[2] = "CAMP";
+  Field.AreaTerrain[0] = "CAMP";
   ShowTerrain(Field, State);
-  EXPECT_EQ(Area(2), "CAMP|2|2");
+  EXPECT_EQ(Area(0), "CAMP|2|2");
 }
 
 }  // namespace tarnwick
