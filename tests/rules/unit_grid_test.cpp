@@ -40,7 +40,7 @@ TEST_F(Grid, TheViewsShareTheRows) {
 }
 
 TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
-  State.BaseUnits[1].Bought = 3;
+  State.BaseUnits[1].Bought = 1;
   State.BaseUnits[2].Bought = -2;
   ShowSelectUnits(State, Store);
   const auto line = [&u = Units](int k) {
@@ -49,10 +49,10 @@ TEST_F(Grid, ALineShowsItsRowAndMovesNoPoints) {
                   u.CostLabel[k].Caption, u.MaxLabel[k].Caption, u.UnitTotalLabel[k].Caption,
                   u.specLabel[k].Caption);
   };
-  EXPECT_EQ(line(0), "3|HI|Vet|2.5|4||7|4|21|(+)");
+  EXPECT_EQ(line(0), "1|HI|Vet|2.5|4||7|4|7|(+)");
   EXPECT_EQ(line(1), "|SK||3|1|S|5|6|-10|");
   EXPECT_EQ(Joined(Points(), State.Title),
-            "100/0|Velmora Tarnwick ver 1.2.1 [ #cards: 3 units: 3 (100%) ]");
+            "100/0|Velmora Tarnwick ver 1.2.1 [ #cards: 1 units: 1 (100%) ]");
   EXPECT_FALSE(State.GridFilling || State.SetupLoading);
 }
 
