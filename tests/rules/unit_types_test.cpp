@@ -33,8 +33,8 @@ TEST(MountedKind, MonstersAreAsTheirAbilitiesSay) {
     EXPECT_EQ(kind(type, 4), mounted) << type;
   for (const char* type : {"SM", "LM"})
     EXPECT_EQ(Joined(kind(type, 5), kind(type, 4), kind(type, -1)), Joined(mounted, foot, foot));
-  EXPECT_EQ(kind("HI", 5), foot);
-  EXPECT_EQ(kind("SK", 5), skirmishers);
+  EXPECT_EQ(kind("HI", 5), 0);
+  EXPECT_EQ(kind("SK", 5), 1);
 }
 
 }  // namespace tarnwick
