@@ -78,6 +78,7 @@ TEST_F(EntryGuardTest, ChecksAnEntryBeforeAnythingElseHappens) {
       Form.Refresh();
       Click(box.PanelButton);
       Enter(box.Name, box.Refused);
+      Click(box.Name);  // moves the caret
       leave(box);
       EXPECT_EQ(TakeMessages().join("|"), box.Complaint);
       EXPECT_FALSE(done(box) || Folder.Has("Trebia.army"));

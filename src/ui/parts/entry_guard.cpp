@@ -80,7 +80,7 @@ bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
   const QWidget* clicked = ClickedWidget(object, *static_cast<QMouseEvent*>(event));
   if (clicked == nullptr) return false;
   QWidget* box = BoxInFocus(clicked->window());
-  if (box == nullptr || clicked == box || box->isAncestorOf(clicked)) return false;
+  if (box == nullptr || box->isAncestorOf(clicked)) return false;  // itself counts, too
   // The window asked already when the widget sees the click.
   if (object->isWidgetType() && passed_ == box) return false;
   return Refuses(box);
