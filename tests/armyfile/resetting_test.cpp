@@ -13,7 +13,7 @@ TEST_F(Resetting, EmptiesTheArmyAndReadsItsPointsAgain) {
   Load("saved");
   UnitsPanel& grid = Army.Units;
   Army.BaseUnits[1].Bought = 1;
-  Army.Command.SpecBuy[4].Text = Army.Command.SpecBuy[4].Tag = "2";
+  grid.Buy[22].Text = Army.Command.SpecBuy[4].Text = Army.Command.SpecBuy[4].Tag = "2";
   Folder.Write("armylist.dat", "[Sample Army]\npoints=321\ncommand_pts=99.5\n");
   ResetArmy_Click(Work, Store);
 
@@ -24,8 +24,8 @@ TEST_F(Resetting, EmptiesTheArmyAndReadsItsPointsAgain) {
   EXPECT_EQ(
       Joined(grid.Buy[0].Tag, grid.Buy[1].Text, grid.Buy[1].Tag, grid.UnitTotalLabel[1].Caption,
              grid.UnitTotalLabel[1].Tag, grid.UnitTotalLabel[1].Visible, grid.ImageName[1].Text(),
-             grid.ImageName[22].ListIndex),
-      "||||0|1|Javelin|-1");
+             grid.ImageName[22].ListIndex, grid.Buy[22].Text),
+      "||||0|1|Javelin|-1|");
   for (const int j : {0, 4})
     EXPECT_EQ(Joined(Army.Command.SpecBuy[j].Text, Army.Command.SpecBuy[j].Tag), "|0");
   EXPECT_EQ(Joined(Army.SelectedLeader, Army.Command.LeaderName[0].Value), "-1|0");

@@ -68,9 +68,9 @@ TEST_F(Terrain, AClearedAreaKeepsItsPicture) {
   EXPECT_EQ(Area(0), "CLEAR|0|3");
   EXPECT_EQ(Joined(Field.Terrain.ArmyPts.Caption, Field.Terrain.CommandPts.Caption), "79|7");
   EXPECT_EQ(State.EditFrame.Front, Panel::Terrain);
-  Field.AreaTerrain[0] = "CAMP";
+  Field.AreaTerrain[0] = Field.AreaTerrain[8] = "CAMP";
   ShowTerrain(Field, State);
-  EXPECT_EQ(Area(0), "CAMP|2|2");
+  EXPECT_EQ(Joined(Area(0), Area(8)), "CAMP|2|2|CAMP|2|2");
 }
 
 }  // namespace tarnwick

@@ -82,7 +82,6 @@ TEST_F(Purchase, AfterAResetCountsForWhatTheLinesShow) {
     const auto bought = [this](int row) { return State.BaseUnits[row].Bought; };
     return Joined(bought(1), bought(2), bought(3), bought(4), bought(5), Points());
   };
-  EXPECT_EQ(buy(0, ""), "0|0|0|0|0|100/0");
   EXPECT_EQ(buy(2, "5"), "0|0|0|0|0|100/0");
   EXPECT_EQ(Host.Heard(), Lines{"You can only buy 4 units"});
   EXPECT_EQ(buy(2, "2"), "0|0|0|2|0|86/14");  // one of two rows alike
