@@ -95,7 +95,7 @@ void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
       continue;
     }
     list.AddItem(image.Name, m);
-    if (list.ListIndex == -1 && m == state.BaseUnits[row].ChosenImageIdx) {
+    if (m == state.BaseUnits[row].ChosenImageIdx) {
       list.ListIndex = static_cast<int>(list.Entries.size()) - 1;
     }
   }

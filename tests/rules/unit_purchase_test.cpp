@@ -29,6 +29,7 @@ TEST_F(Purchase, QuantitiesAreCutDownPaidForAndGivenBack) {
   EXPECT_EQ(Buy(0, "2.9"), "2|14|2|86/14");
   EXPECT_EQ(Buy(0, "4.5"), "4|28|4|72/28");  // cut down before it meets the maximum
   EXPECT_EQ(Buy(0, " none "), "none|0|0|100/0");
+  EXPECT_EQ(Units.TotalCost.Caption, "Points left: 100 of 100");
   EXPECT_EQ(Buy(0, "-1.5"), "-2|-14|-2|114/-14");  // nobody refuses it
   EXPECT_EQ(Buy(0, "0.5"), "0|0|0|100/0");         // cut down to a purchase of none
   State.GridFilling = true;                        // nothing counts while code fills the grid
