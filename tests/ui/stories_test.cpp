@@ -128,11 +128,22 @@ TEST_F(WindowTest, TheDetailsAreThoseOfTheArmy) {
   }
 }
 
-TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndNoPeriod) {
+TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndTrapsAndNoPeriod) {
   Click("modOption(1)");
   EXPECT_EQ(Text("NewArmyFile"), ".army in the folder brakka");
   NewArmy(0);
   EXPECT_EQ(Text("ArmyName"), "Fenmoot of Oorl");
+  OnDialog([this] {
+    ClickEntry("ArmyList", 0);
+    EXPECT_TRUE(Sees("DeleteWarning"));
+    CloseDialog();
+  });
+  OnDialog([this] { CloseDialog(); });
+  Click("LoadBtn", "NewArmyBtn");
+  Enter("ArmyFileName", "gaul/Oorl");
+  EXPECT_TRUE(Sees("FolderWarning") && Sees("BaseArmyWarning"));
+  Click("ShowTerrainBtn");
+  EXPECT_TRUE(Sees("TerrainWarning"));
   Click("ShowDetailBtn");
   EXPECT_TRUE(!Sees("HistoricTab") && Ticked("TYPE_IsFantasy"));
   Click("ShowSaveFrame", "modOption(0)");
@@ -181,6 +192,7 @@ TEST_F(WindowTest, AnErrorInADialogEndsTheProgram) {
     CloseDialog();
   });
   Click("ShowCommandBtn");
+  EXPECT_TRUE(Sees("LeaderWarning"));
   EXPECT_EQ(Exec([this] { Click("LeaderBtn", "LeaderBtn", "QuickSave"); }), 1);
   EXPECT_EQ(TakeMessages(), QStringList{"Run-time error: Subscript out of range"});
 }

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "armyfile/warnings.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -30,6 +31,8 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   lists->addWidget(frame, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(remove);
+  auto* warning = NewWarning("DeleteWarning", this);
+  buttons->addWidget(warning, 1);
   buttons->addStretch();
   buttons->addWidget(select);
   auto* layout = new QVBoxLayout(this);
@@ -39,6 +42,9 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   FillArmyList(session_.Work.Army, session_.Store, form_);
   bindings_.Add(list, form_.ArmyList);
   bindings_.Add(detail, form_.ArmyDetailLabel);
+  bindings_.Add([this, warning] {
+    ShowWarning(warning, DeleteWarning(session_.Work.Army, session_.Store, form_));
+  });
   bindings_.Refresh();
 
   const auto showDetail = [this] { ShowArmyDetail(session_.Work.Army, session_.Store, form_); };

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "armyfile/warnings.h"
 #include "rules/leaders.h"
 #include "rules/special_cards.h"
 #include "ui/parts/application_style.h"
@@ -60,10 +61,13 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
   define->setToolTip("Add New Leader");
   layout->addSpacing(8);
   layout->addWidget(define, 0, Qt::AlignLeft);
+  auto* warning = NewWarning("LeaderWarning", frame);
+  layout->addWidget(warning);
 
   bindings_.Add([frame, &caption = army_.Command.LeaderFrame.Caption] {
     if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
   });
+  bindings_.Add([this, warning] { ShowWarning(warning, LeaderWarning(army_)); });
   session_.Connect(leaders,
                    [this, leaders] { LeaderName_Click(army_, user_, leaders->checkedId()); });
   session_.Connect(define, [this] { user_.ShowLeaderMgmtForm(); });

@@ -8,6 +8,7 @@
 
 #include "armyfile/loading.h"
 #include "armyfile/saving.h"
+#include "armyfile/warnings.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -45,27 +46,35 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   layout->addWidget(file, 1, 1);
   layout->addWidget(fileHint, 1, 2);
   layout->setColumnStretch(2, 1);
+  auto* warning = NewWarning("FolderWarning", frame);
+  layout->addWidget(warning, 2, 1, 1, 2);
 
   bindings_.Add([fileHint, this] {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
   });
+  const auto warn = [this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); };
+  bindings_.Add(warn);
+  connect(file, &QLineEdit::textEdited, warning, warn);
   return frame;
 }
 
 QWidget* ManagementPanelWidget::NewButtons() {
   auto* row = new QWidget(this);
-  auto* layout = new QHBoxLayout(row);
+  auto* layout = new QGridLayout(row);
   layout->setContentsMargins(0, 8, 0, 0);
-  const auto add = [&](const char* name, const char* caption) {
+  const auto add = [&](const char* name, const char* caption, int column) {
     auto* button = Named(new QPushButton(caption, row), name);
     button->setMinimumSize(TextWidth(button, 18), button->fontMetrics().height() * 2);
-    layout->addWidget(button);
+    layout->addWidget(button, 0, column);
     return button;
   };
-  auto* newArmy = add("NewArmyBtn", "New army");
-  auto* load = add("LoadBtn", "Load army");
-  auto* save = add("SaveBtn", "Save Army");
-  layout->addStretch();
+  auto* newArmy = add("NewArmyBtn", "New army", 0);
+  auto* load = add("LoadBtn", "Load army", 1);
+  auto* save = add("SaveBtn", "Save Army", 2);
+  auto* warning = NewWarning("BaseArmyWarning", row);
+  layout->addWidget(warning, 1, 2, 1, 2);  // as wide as the panel allows
+  layout->setColumnStretch(3, 1);
+  bindings_.Add([this, warning] { ShowWarning(warning, BaseArmyWarning(army_)); });
   setFocusProxy(newArmy);
   session_.Connect(newArmy, [this] { NewArmyBtn_Click(work_, disk_, user_); });
   session_.Connect(load, [this] { LoadBtn_Click(work_, disk_, user_); });

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "armyfile/warnings.h"
 #include "battlefield/setups.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
@@ -13,6 +14,9 @@
 namespace tarnwick {
 
 SetupPanelWidget::SetupPanelWidget(Session& session) : PanelWidget(Panel::Setup, "Setup", session) {
+  auto* warning = NewWarning("SetupWarning", this);
+  bindings_.Add([this, warning] { ShowWarning(warning, SetupWarning(work_)); });
+  Body()->addWidget(warning);
   auto* row = new QHBoxLayout;
   row->setSpacing(18);
   row->addWidget(NewSetupList());

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "armyfile/warnings.h"
 #include "battlefield/terrain.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/terrain_tile.h"
@@ -28,6 +29,9 @@ constexpr int areaSide = 128;
 
 TerrainPanelWidget::TerrainPanelWidget(Session& session)
     : PanelWidget(Panel::Terrain, "Terrain", session) {
+  auto* warning = NewWarning("TerrainWarning", this);
+  bindings_.Add([this, warning] { ShowWarning(warning, TerrainWarning(army_)); });
+  Body()->addWidget(warning);
   auto* row = new QHBoxLayout;
   row->setSpacing(24);
   row->addWidget(NewPalette(), 0, Qt::AlignTop);

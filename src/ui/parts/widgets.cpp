@@ -122,6 +122,23 @@ QLabel* NewNumberLabel(const QString& name, QWidget* parent) {
   return label;
 }
 
+QLabel* NewWarning(const QString& name, QWidget* parent) {
+  auto* warning = NewLabel(name, "", parent);
+  warning->setWordWrap(true);
+  QPalette palette = warning->palette();
+  palette.setColor(QPalette::WindowText, QColor(0x9A, 0x34, 0x12));
+  warning->setPalette(palette);
+  warning->hide();
+  return warning;
+}
+
+void ShowWarning(QLabel* warning, std::string_view text) {
+  const QString line = ToQt(text);
+  if (warning->text() == line) return;
+  warning->setText(line);
+  warning->setVisible(!line.isEmpty());
+}
+
 QLineEdit* NewTextBox(const QString& name, QWidget* parent) {
   auto* box = Named(new QLineEdit(parent), name);
   box->setMaxLength(longestValue);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 #include <QGroupBox>
 #include <QLabel>
@@ -30,6 +31,12 @@ QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent);
 
 /// A label whose number stands on the right.
 QLabel* NewNumberLabel(const QString& name, QWidget* parent);
+
+/// A line that warns of something, hidden while it has nothing to say.
+QLabel* NewWarning(const QString& name, QWidget* parent);
+
+/// What a warning says; "" hides it.
+void ShowWarning(QLabel* warning, std::string_view text);
 
 /// A box that takes what one line of a file can hold.
 QLineEdit* NewTextBox(const QString& name, QWidget* parent);

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "armyfile/warnings.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/ansi.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Two names of one file: "a/b" and "a\b". Names that differ in case are two files.
+bool SameFile(const std::string& a, const std::string& b) {
+  return a == b || PathIn("", a).lexically_normal() == PathIn("", b).lexically_normal();
+}
+
+}  // namespace
+
+std::string LeaderWarning(const ArmyState& state) {
+  if (state.LeaderCount <= decltype(state.Command.LeaderName)::Last) return "";
+  return "All seven places are taken; another leader ends the editor.";
+}
+
+std::string DeleteWarning(const ArmyState& state, const Disk& disk, const ArmyListForm& form) {
+  if (!state.BrakkaMode || !form.ArmyList.HasSelection()) return "";
+  const std::string name = form.ArmyList.Text();
+  const std::string file = name + std::string(armyEnding);
+  if (FileExists(ArmyPath(disk.ProgramFolder, name))) {
+    return "Delete removes " + file + " from the base game's folder";
+  }
+  return "There is no " + file + " in the base game's folder; Delete would end the editor.";
+}
+
+std::string SetupWarning(const WorkingArmy& work) {
+  const std::string& loaded = work.Header.ArmyFile;
+  if (loaded.empty()) {
+    return "Units can be deployed once the army was saved and loaded; until then setups belong to "
+           "no army.";
+  }
+  const std::string& named = work.Army.Management.ArmyFileName.Text;
+  if (named.empty() || SameFile(named, loaded)) return "";
+  return "These setups belong to " + loaded + ", Save puts them into " + loaded +
+         std::string(armyEnding) +
+         ". Units of this army can be deployed once it was saved and loaded.";
+}
+
+std::string TerrainWarning(const ArmyState& state) {
+  const std::string& name = state.Management.ArmyFileName.Text;
+  if (!state.BrakkaMode || name.empty()) return "";
+  return "Terrain is saved into " + name + std::string(armyEnding) +
+         " of the base game's folder and not read back.";
+}
+
+std::string BaseArmyWarning(const ArmyState& state) {
+  if (!state.BaseArmyName.empty() || state.TotUnits == 0) return "";
+  return "This army has lost its base army; saved now, it cannot be loaded.";
+}
+
+std::string FolderWarning(const ArmyState& state, const Disk& disk) {
+  const std::string& name = state.Management.ArmyFileName.Text;
+  const fs::path folder = ArmyPath(disk.ModuleFolder(state.BrakkaMode), name).parent_path();
+  std::error_code error;
+  if (fs::is_directory(folder, error)) return "";
+  return "There is no folder " + AnsiFromPath(folder.lexically_relative(disk.ProgramFolder)) + ".";
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "armyfile/army_browser.h"
+#include "armyfile/working_army.h"
+
+namespace tarnwick {
+
+// What the next click would end or lose, told before it is done: a line for the window to show
+// while it applies, "" otherwise. Nothing is changed and no error is thrown.
+
+/// All options for leaders are taken; defining one more ends the editor.
+std::string LeaderWarning(const ArmyState& state);
+
+/// What deleting the selected army does in the second module: the file goes from the program
+/// folder. Looks for that file.
+std::string DeleteWarning(const ArmyState& state, const Disk& disk, const ArmyListForm& form);
+
+/// Whose setups those of the panel are when they aren't those of the army in the box "File".
+std::string SetupWarning(const WorkingArmy& work);
+
+/// Where the second module's terrain goes.
+std::string TerrainWarning(const ArmyState& state);
+
+/// The choice of a new army was cancelled, which took the base army from the army on screen.
+std::string BaseArmyWarning(const ArmyState& state);
+
+/// The folder in which the army would be saved isn't there. Looks for it.
+std::string FolderWarning(const ArmyState& state, const Disk& disk);
+
+}  // namespace tarnwick

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "armyfile/warnings.h"
+
+#include "support/sample_army.h"
+
+namespace tarnwick {
+
+TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
+  SampleArmy desk;
+  ArmyListForm form;
+  std::string& file = desk.Army.Management.ArmyFileName.Text;
+  const auto told = [&] {
+    return LeaderWarning(desk.Army) + DeleteWarning(desk.Army, desk.Store, form) +
+           SetupWarning(desk.Work) + TerrainWarning(desk.Army) + BaseArmyWarning(desk.Army) +
+           FolderWarning(desk.Army, desk.Store);
+  };
+  EXPECT_EQ(told(),
+            "Units can be deployed once the army was saved and loaded; until then setups belong to "
+            "no army.");
+  desk.Folder.Copy(TEST_DATA "/armies");
+  desk.Load("saved");
+  form.ArmyList.AddItem("saved");
+  form.ArmyList.ListIndex = 0;
+  EXPECT_EQ(told(), "");
+  file = "italy\\po\\saved";
+  EXPECT_EQ(told(),
+            "These setups belong to saved, Save puts them into saved.army. Units of this army can "
+            "be deployed once it was saved and loaded.There is no folder italy/po.");
+  desk.Folder.Write("italy/po/x", "");
+  desk.Header.ArmyFile = "italy/po/saved";
+  EXPECT_EQ(told(), "");
+  desk.ChooseModule(1);
+  file = desk.Header.ArmyFile = "Tyre";
+  EXPECT_EQ(told(),
+            "Delete removes saved.army from the base game's folder"
+            "Terrain is saved into Tyre.army of the base game's folder and not read back.");
+  std::filesystem::remove(desk.Folder / "saved.army");
+  file = "";
+  EXPECT_EQ(told(),
+            "There is no saved.army in the base game's folder; Delete would end the editor.");
+  form.ArmyList.ListIndex = -1;
+  desk.NewArmy("");
+  EXPECT_EQ(told(), "This army has lost its base army; saved now, it cannot be loaded.");
+  desk.Army.TotUnits = 0;
+  desk.Army.LeaderCount = 6;
+  EXPECT_EQ(told(), "");
+  ++desk.Army.LeaderCount;
+  EXPECT_EQ(told(), "All seven places are taken; another leader ends the editor.");
+}
+
+}  // namespace tarnwick
