@@ -97,4 +97,41 @@ TEST_F(EntryGuardTest, ChecksAnEntryBeforeAnythingElseHappens) {
   }
 }
 
+TEST_F(EntryGuardTest, EscapeTakesAnEntryBackOrLeavesTheBox) {
+  LoadTrebia();
+  Click("ShowDetailBtn");
+  Fill({{"FromData", "0"}, {"ToData", "0"}});
+  const auto left = [&] { return Form.focusWidget()->objectName().startsWith("EditFrame"); };
+  for (const Box& box : guardedBoxes) {
+    SCOPED_TRACE(box.Name);
+    Click(box.PanelButton, box.Name);
+    const WorkingArmy valid = Work;
+    Enter(box.Name, box.Refused);
+    Click(box.Option);
+    EXPECT_EQ(TakeMessages().join("|"), box.Complaint);
+    ClickBehindAnotherWindow(box.Name);
+    for (const bool again : {false, true}) {
+      Press(Qt::Key_Escape);
+      EXPECT_TRUE(Work == valid && left() == again);
+    }
+  }
+  Click("ShowUnitsBtn");
+  Enter("Buy(1)", "2");
+  Press(Qt::Key_S, Qt::ControlModifier);  // which has it checked
+  EXPECT_EQ(TakeMessages().last(), "Army Saved");
+  Type("3");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Work.Army.Units.Buy[1].Text, "2");
+  Click("ResetArmy", "ShowDetailBtn", "FromData");  // which is refused as it is
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(left());
+  Enter("ArmyDesc", "In ambush");
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(left() && Work.Header.ArmyDescription == "In ambush");
+  Click("ShowSaveFrame");
+  Enter("ArmyName", "Mago");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Work.Army.Management.ArmyName.Text, "Hannibal at the Trebia");
+}
+
 }  // namespace tarnwick

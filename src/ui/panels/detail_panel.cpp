@@ -49,7 +49,8 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     row->addWidget(year);
     auto* eras = bindings_.Add(NewOptions(eraName, 2, row, half), era);
     layout->addWidget(half);
-    session_.Guard(year, [this, validate] { return validate(header_, user_); });
+    const auto refused = [this, validate] { return validate(header_, user_); };
+    session_.Guard(year, refused, &header_.ArmyPeriod);
     session_.Connect(eras, [this, click] { click(header_); });
   };
   add("Frame9", "Label30", "From:", "FromData", header_.FromData, FromData_Validate, "FromACBC",

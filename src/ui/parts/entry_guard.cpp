@@ -5,10 +5,13 @@
 #include <utility>
 
 #include <QApplication>
+#include <QDialog>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QStackedLayout>
 #include <QWindow>
 
 namespace tarnwick {
@@ -25,14 +28,32 @@ QWidget* ClickedWidget(QObject* object, const QMouseEvent& event) {
   return nullptr;
 }
 
+/// Whether the focus goes to another window or a menu, or comes back from there.
+bool StaysInBox(const QEvent& event) {
+  const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+bool InDialog(const QWidget& widget) {
+  return qobject_cast<const QDialog*>(widget.window()) != nullptr;
+}
+
+/// The page of a stack that the box stands on, else its window.
+QWidget* PageOf(QWidget* box) {
+  while (!box->isWindow() &&
+         qobject_cast<QStackedLayout*>(box->parentWidget()->layout()) == nullptr)
+    box = box->parentWidget();
+  return box;
+}
+
 }  // namespace
 
 EntryGuard::EntryGuard(QObject* parent) : QObject(parent) {
   qApp->installEventFilter(this);
 }
 
-void EntryGuard::Watch(QWidget* box, const std::function<bool()>& refused) {
-  checks_.insert(box, refused);
+void EntryGuard::Watch(QWidget* box, const std::function<bool()>& refused, std::string* taken) {
+  checks_.insert(box, {refused, taken});
   box->setAcceptDrops(false);  // a text dropped on a box without the focus is never left
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
@@ -45,14 +66,15 @@ QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
 bool EntryGuard::Refuses(QWidget* box) {
   checking_ = true;
   const QPointer<QWidget> alive = box;
-  const bool refused = checks_.value(box)();
-  checking_ = false;
-  if (!alive) return refused;
-  if (refused) {
+  const bool refused = checks_.value(box).Refused();
+  if (alive && refused) {
     box->setFocus(Qt::OtherFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
-  } else {
+  }
+  checking_ = false;
+  if (alive && !refused) {
     passed_ = box;
+    if (box == entry_.Box) Remember(entry_.Box);
   }
   return refused;
 }
@@ -66,7 +88,11 @@ bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
     case QEvent::Shortcut:
       return RefusesShortcut();
     case QEvent::KeyPress:
+      if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) return TakesEscape(object);
       return checks_.contains(object) && RefusesKey(static_cast<QWidget*>(object), event);
+    case QEvent::FocusIn:
+      CheckGainedFocus(object, event);
+      return false;
     case QEvent::FocusOut:
       if (checks_.contains(object)) CheckLostFocus(static_cast<QWidget*>(object), event);
       return false;
@@ -110,9 +136,44 @@ bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
 }
 
 void EntryGuard::CheckLostFocus(QWidget* box, QEvent* event) {
-  const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
+  if (StaysInBox(*event)) return;
   if (std::exchange(passed_, nullptr) != box && box->isVisible()) Refuses(box);
+}
+
+void EntryGuard::CheckGainedFocus(QObject* object, QEvent* event) {
+  if (!object->isWidgetType() || InDialog(*static_cast<QWidget*>(object))) return;
+  auto* box = qobject_cast<QLineEdit*>(object);
+  const bool stays = StaysInBox(*event);
+  if (box == nullptr) {
+    if (!stays) entry_.Box = nullptr;
+  } else if (!stays || box != entry_.Box) {
+    Remember(box);
+  }
+}
+
+void EntryGuard::Remember(QLineEdit* box) {
+  const std::string* taken = checks_.value(box).Taken;
+  entry_ = {box, box->text(), taken != nullptr ? *taken : ""};
+}
+
+bool EntryGuard::PutsBack(QLineEdit* box) {
+  if (std::string* taken = checks_.value(box).Taken) *taken = entry_.Taken;
+  if (box->text() == entry_.Text) return false;
+  box->setText(entry_.Text);
+  Q_EMIT box->textEdited(entry_.Text);  // to whoever hears what is typed
+  return true;
+}
+
+bool EntryGuard::TakesEscape(QObject* object) {
+  passed_ = nullptr;
+  auto* line = qobject_cast<QLineEdit*>(object);
+  if (line == nullptr && qobject_cast<QPlainTextEdit*>(object) == nullptr) return false;
+  auto* box = static_cast<QWidget*>(object);
+  if (InDialog(*box)) return false;
+  if (line != nullptr && (line != entry_.Box || PutsBack(line))) return true;
+  passed_ = box;
+  PageOf(box)->setFocus();
+  return true;
 }
 
 }  // namespace tarnwick

@@ -3,11 +3,14 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QString>
 
+class QLineEdit;
 class QWidget;
 
 namespace tarnwick {
@@ -15,18 +18,31 @@ namespace tarnwick {
 /// Checks what was entered into a box before anything else happens when the user leaves the box:
 /// by Tab or Enter, by a click elsewhere, by a shortcut. A refused entry keeps the focus, with its
 /// text selected, and what the user was about to do does not happen. Enter goes on to the next
-/// box that is checked.
+/// box that is checked. Escape takes an entry back, or leaves a box where there is none, without a
+/// check; a dialog it closes.
 class EntryGuard : public QObject {
  public:
   explicit EntryGuard(QObject* parent = nullptr);
 
-  /// `refused` runs when `box` is left and says whether it may not be.
-  void Watch(QWidget* box, const std::function<bool()>& refused);
+  /// `refused` runs when `box` is left and says whether it may not be. `taken` is what it changes
+  /// even then, for Escape to put back.
+  void Watch(QWidget* box, const std::function<bool()>& refused, std::string* taken = nullptr);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
+  struct Check {
+    std::function<bool()> Refused;
+    std::string* Taken = nullptr;
+  };
+  /// What a box held when the user came to it, or when it was accepted since.
+  struct Entry {
+    QPointer<QLineEdit> Box;
+    QString Text;
+    std::string Taken;
+  };
+
   /// The box that has the focus of a window, whether that is active or not.
   QWidget* BoxInFocus(const QWidget* window) const;
   bool Refuses(QWidget* box);
@@ -34,8 +50,13 @@ class EntryGuard : public QObject {
   bool RefusesShortcut();
   bool RefusesKey(QWidget* box, QEvent* event);
   void CheckLostFocus(QWidget* box, QEvent* event);
+  void CheckGainedFocus(QObject* object, QEvent* event);
+  void Remember(QLineEdit* box);
+  bool PutsBack(QLineEdit* box);
+  bool TakesEscape(QObject* object);
 
-  QHash<QObject*, std::function<bool()>> checks_;
+  QHash<QObject*, Check> checks_;
+  Entry entry_;
   QPointer<QWidget> passed_;  ///< accepted just now, about to lose the focus
   bool checking_ = false;     ///< a check is under way, perhaps with its message on the screen
 };

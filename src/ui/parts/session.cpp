@@ -31,11 +31,12 @@ bool Session::Run(const std::function<void()>& operation) {
   }
 }
 
-void Session::Guard(QWidget* box, const std::function<bool()>& refused) {
-  guard_.Watch(box, [this, refused] {
+void Session::Guard(QWidget* box, const std::function<bool()>& refused, std::string* taken) {
+  const auto check = [this, refused] {
     bool result = false;
     return !Run([&] { result = refused(); }) || result;
-  });
+  };
+  guard_.Watch(box, check, taken);
 }
 
 void Session::Rethrow() const {

@@ -4,6 +4,7 @@
 
 #include <exception>
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -51,8 +52,8 @@ class Session {
   }
 
   /// Whenever the user leaves `box`, `refused` looks at what was entered and says whether it is
-  /// refused; an error refuses it, too.
-  void Guard(QWidget* box, const std::function<bool()>& refused);
+  /// refused; an error refuses it, too. `taken` is what it changes even then.
+  void Guard(QWidget* box, const std::function<bool()>& refused, std::string* taken = nullptr);
 
   /// Lets the error that has ended the program end the operation, too, that opened a dialog.
   void Rethrow() const;
