@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "armyfile/warnings.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
 #include "base/ansi.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -65,6 +67,14 @@ std::string FolderWarning(const ArmyState& state, const Disk& disk) {
   std::error_code error;
   if (fs::is_directory(folder, error)) return "";
   return "There is no folder " + AnsiFromPath(folder.lexically_relative(disk.ProgramFolder)) + ".";
+}
+
+std::string LengthWarning(std::string_view text, std::size_t lineBreakSize) {
+  constexpr std::size_t nearlyFull = 200;
+  const auto breaks = static_cast<std::size_t>(std::count(text.begin(), text.end(), CrLf.back()));
+  const std::size_t stored = text.size() + breaks * lineBreakSize - breaks * CrLf.size();
+  if (stored < nearlyFull) return "";
+  return std::to_string(stored) + " of " + std::to_string(longestValue);
 }
 
 }  // namespace tarnwick

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "armyfile/army_browser.h"
 #include "armyfile/working_army.h"
@@ -30,5 +32,9 @@ std::string BaseArmyWarning(const ArmyState& state);
 
 /// The folder in which the army would be saved isn't there. Looks for it.
 std::string FolderWarning(const ArmyState& state, const Disk& disk);
+
+/// How full the line of the file is that takes a description, from 200 bytes on. Each line break of
+/// `text` takes `lineBreakSize` bytes there.
+std::string LengthWarning(std::string_view text, std::size_t lineBreakSize);
 
 }  // namespace tarnwick

@@ -47,6 +47,9 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
   EXPECT_EQ(told(), "");
   ++desk.Army.LeaderCount;
   EXPECT_EQ(told(), "All seven places are taken; another leader ends the editor.");
+
+  EXPECT_EQ(LengthWarning(std::string(199, 'x'), 1), "");
+  EXPECT_EQ(LengthWarning(std::string(196, 'x') + "\r\n\r\n", 2), "200 of 254");
 }
 
 }  // namespace tarnwick

@@ -92,6 +92,7 @@ TEST_F(BattlefieldTest, UnitsAreDeployedInASetup) {
   const QString cut = QString(126, 'x') + "%1" + QString(126, 'y');  // the break takes two
   Enter("description", cut.arg("\n") + "yyy");
   EXPECT_EQ(stored("description"), cut.arg("\\n"));
+  EXPECT_EQ(Text("descriptionWarning"), "254 of 254");
 
   PressIn("setupList", Qt::Key_Up);
   const QString first = "Mago in ambush.\nThe slingers in front.";

@@ -69,7 +69,7 @@ TEST_F(WindowTest, TextBoxesTakeWhatAFileCanHold) {
   EXPECT_EQ(Text("ArmyDesc"), "?ab");
   Enter("ArmyDesc", QString(200, 'a') + "\n" + QString(60, 'b'));
   const QString full = QString(200, 'a') + "\n" + QString(53, 'b');  // the break is one "@"
-  EXPECT_EQ(Text("ArmyDesc"), full);
+  EXPECT_EQ(Texts("ArmyDesc", "ArmyDescWarning"), (QStringList{full, "254 of 254"}));
   EXPECT_EQ(Work.Header.ArmyDescription, QString(full).replace('\n', '@').toStdString());
 
   // In the middle nothing goes in either, and nothing falls off the end.

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "armyfile/warnings.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -25,7 +26,11 @@ QWidget* DetailPanelWidget::NewDescriptionFrame() {
   auto* frame = NewFrame("Frame3", "Army Description ", this);
   auto* layout = new QVBoxLayout(frame);
   auto* description = bindings_.Add(NewDescriptionBox("ArmyDesc", 1, frame), header_.ArmyDesc);
+  auto* length = NewWarning("ArmyDescWarning", frame);
+  length->setAlignment(Qt::AlignRight);
+  layout->addWidget(length);
   layout->addWidget(description);
+  bindings_.Add([this, length] { ShowWarning(length, LengthWarning(header_.ArmyDesc.Text, 1)); });
   session_.Connect(description, [this] { ArmyDesc_Change(header_); });
   return frame;
 }

@@ -59,13 +59,18 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   auto* units = bindings_.Add(Named(new QListWidget(frame), "unitList"), field_.Setup.unitList);
   units->setMinimumWidth(TextWidth(units, 28));
   layout->addWidget(units, 0, 1, 3, 1);
-  layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0, 1, 2);
+  layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0);
+  auto* length = NewWarning("descriptionWarning", frame);
+  length->setAlignment(Qt::AlignRight);
+  layout->addWidget(length, 3, 1);
   auto* description = NewDescriptionBox("description", 2, frame);
   layout->addWidget(description, 4, 0, 1, 2);
   layout->setRowStretch(4, 1);
 
   bindings_.AddVisible(frame, field_.Setup.setupFramePanel.Visible);
   bindings_.Add(description, field_.Setup.description);
+  bindings_.Add(
+      [this, length] { ShowWarning(length, LengthWarning(field_.Setup.description.Text, 2)); });
   session_.Connect(description, [this] { description_Change(field_, army_, disk_); });
   return frame;
 }
