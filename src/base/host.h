@@ -18,6 +18,8 @@ class Host {
 
   /// A box with an OK button.
   virtual void Message(const std::string& text) = 0;
+  /// The same for an error that ends the program.
+  virtual void ErrorMessage(const std::string& text) { Message(text); }
   /// A box with OK and Cancel; true only for OK.
   [[nodiscard]] virtual bool Question(const std::string& text) = 0;
 

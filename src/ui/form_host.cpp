@@ -35,6 +35,10 @@ void FormHost::Message(const std::string& text) {
   ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
 }
 
+void FormHost::ErrorMessage(const std::string& text) {
+  ShowBox(QMessageBox::Critical, text, QMessageBox::Ok);
+}
+
 bool FormHost::Question(const std::string& text) {
   return ShowBox(QMessageBox::Question, text, QMessageBox::Ok | QMessageBox::Cancel) ==
          QMessageBox::Ok;

@@ -18,6 +18,7 @@ class FormHost : public Host {
   void Serve(Session& session) { session_ = &session; }
 
   void Message(const std::string& text) override;
+  void ErrorMessage(const std::string& text) override;
   bool Question(const std::string& text) override;
   void ShowArmySelectionForm() override;
   void ShowArmyListForm() override;

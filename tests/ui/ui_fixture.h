@@ -66,6 +66,7 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
       EXPECT_EQ(box->windowTitle(), "Velmora Tarnwick");
       EXPECT_EQ(box->textFormat(), Qt::PlainText);
       EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::Ok));
+      EXPECT_EQ(box->icon() == QMessageBox::Critical, box->text().startsWith("Run-time error: "));
     });
     ASSERT_TRUE(Form.Start());
     Form.resize(1280, 800);

@@ -24,7 +24,7 @@ bool Session::Run(const std::function<void()>& operation) {
   } catch (const std::exception& error) {
     if (!error_) {
       error_ = std::current_exception();
-      User.Message("Run-time error: " + std::string(error.what()));
+      User.ErrorMessage("Run-time error: " + std::string(error.what()));
       QCoreApplication::exit(1);
     }
     return false;
