@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -60,13 +61,18 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
   WindowTest() : Editor(Folder.Path()) {}
 
   void SetUp() override {
-    OnSight([](QWidget& window) {
+    OnSight([this](QWidget& window) {
       const auto* box = qobject_cast<QMessageBox*>(&window);
       if (box == nullptr) return;
       EXPECT_EQ(box->windowTitle(), "Velmora Tarnwick");
       EXPECT_EQ(box->textFormat(), Qt::PlainText);
       EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::Ok));
       EXPECT_EQ(box->icon() == QMessageBox::Critical, box->text().startsWith("Run-time error: "));
+      const auto* entry = qobject_cast<QLineEdit*>(Form.focusWidget());
+      if (entry != nullptr && box->parentWidget() == &Form) {
+        const QRect row(0, entry->mapToGlobal(QPoint()).y(), 9999, entry->height());
+        EXPECT_FALSE(box->frameGeometry().intersects(row)) << entry->objectName().toStdString();
+      }
     });
     ASSERT_TRUE(Form.Start());
     Form.resize(1280, 800);
