@@ -44,6 +44,13 @@ Int16 TerrainIndex(const Battlefield& field, std::string_view name) {
   throw SubscriptError();
 }
 
+Int16 TerrainCommandPoints(const Battlefield& field) {
+  Int16 points;
+  for (int i = 0; i <= 8; ++i)
+    points += field.TerrainKinds[TerrainIndex(field, field.AreaTerrain[i])].CommandCost;
+  return points;
+}
+
 void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::filesystem::path& army) {
   std::vector<ProfileText::Entry> areas;
   for (Int16 n = 1; n <= 9; ++n) {

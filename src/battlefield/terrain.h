@@ -22,6 +22,10 @@ void InitTerrainKinds(Battlefield& field);
 /// The index of the kind of that name, case and all. Throws SubscriptError for another name.
 Int16 TerrainIndex(const Battlefield& field, std::string_view name);
 
+/// What the terrain on the areas costs, in command points. Throws SubscriptError when an area holds
+/// what is no kind.
+Int16 TerrainCommandPoints(const Battlefield& field);
+
 /// Writes the section TERRAIN of an army file, all nine areas.
 void SaveTerrain(const Battlefield& field, PendingFiles& files, const std::filesystem::path& army);
 

@@ -7,8 +7,7 @@
 
 namespace tarnwick {
 
-std::string PrintDeckInfo(const ArmyState& state) {
-  std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
+std::optional<Deck> CountDeck(const ArmyState& state) {
   Int16 unitCards;
   for (Int16 r = 1; r <= state.TotUnits; ++r) {
     if (state.BaseUnits[r].Bought > 0) unitCards += state.BaseUnits[r].Bought;
@@ -18,13 +17,19 @@ std::string PrintDeckInfo(const ArmyState& state) {
     const std::string& text = state.Command.SpecBuy[j].Text;
     specialCards = RoundToInt16(specialCards.Value() + LenientNumber(text));
   }
-  if (unitCards == 0 && specialCards == 0) return title;
+  if (unitCards == 0 && specialCards == 0) return std::nullopt;
   const Int16 total = unitCards + specialCards;
   const Int16 hundredfold = unitCards * 100;
   if (total == 0) throw DivisionByZeroError();
-  const double share = Int(double{1} * hundredfold.Value() / total.Value());
-  return title + "[ #cards: " + NumberText(total) + " units: " + NumberText(unitCards) + " (" +
-         NumberText(share) + "%) ]";
+  return Deck{total, unitCards, Int(double{1} * hundredfold.Value() / total.Value())};
+}
+
+std::string PrintDeckInfo(const ArmyState& state) {
+  const std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
+  const std::optional<Deck> deck = CountDeck(state);
+  if (!deck) return title;
+  return title + "[ #cards: " + NumberText(deck->Cards) + " units: " + NumberText(deck->Units) +
+         " (" + NumberText(deck->Share) + "%) ]";
 }
 
 }  // namespace tarnwick

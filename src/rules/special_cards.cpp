@@ -9,6 +9,12 @@
 namespace tarnwick {
 namespace {
 
+/// What the cards cost that the box `j` has paid for.
+Int16 PaidFor(const ArmyState& state, Int16 j) {
+  return RoundToInt16(StrictNumber(state.Command.SpecBuy[j].Tag) *
+                      LenientNumber(state.Command.SpecCostLabel[j].Caption));
+}
+
 void ReleaseCards(ArmyState& state, Int16 j) {
   TextBox& box = state.Command.SpecBuy[j];
   const double paidFor = StrictNumber(box.Tag);
@@ -21,6 +27,13 @@ void ReleaseCards(ArmyState& state, Int16 j) {
 }
 
 }  // namespace
+
+Int16 PaidCardPoints(const ArmyState& state) {
+  Int16 points;
+  for (Int16 j = 0; j < state.TotSpecial; ++j)
+    points += PaidFor(state, j);
+  return points;
+}
 
 bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index) {
   TextBox& box = state.Command.SpecBuy[index];
@@ -39,7 +52,7 @@ bool SpecBuy_Validate(ArmyState& state, Host& host, Int16 index) {
   }
   box.Text = NumberText(quantity);
   const double cost = LenientNumber(state.Command.SpecCostLabel[index].Caption);
-  const Int16 oldPrice = RoundToInt16(StrictNumber(box.Tag) * cost);
+  const Int16 oldPrice = PaidFor(state, index);
   const Int16 newPrice = RoundToInt16(quantity.Value() * cost);
   const Int16 delta = newPrice - oldPrice;
   if (delta > state.CommandPts) {

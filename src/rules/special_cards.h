@@ -16,6 +16,10 @@ namespace tarnwick {
 inline constexpr std::array<std::string_view, 5> knownCards = {"FLANK", "RALLY", "COHESION",
                                                                "MISSILE", "CALTROP"};
 
+/// What the cards that are paid for cost, in command points. Throws TypeMismatchError,
+/// OverflowError.
+Int16 PaidCardPoints(const ArmyState& state);
+
 /// The focus leaves `SpecBuy(index)`: buys or gives back cards, paid in command points. Returns
 /// true (cancel: the focus stays) when the entry was refused with a message. A negative quantity
 /// is not refused: it gives command points back.

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "rules/verification.h"
 
-#include <string>
-
 #include "base/numbers.h"
 #include "rules/unit_types.h"
 
@@ -11,8 +9,9 @@ namespace tarnwick {
 namespace {
 
 /// A limit with a class counts its alternative type too but names the class alone.
-std::string LimitMessage(const LimitRec& limit, const std::string& minimum) {
-  const std::string start = "You must buy at least " + minimum + " units of ";
+std::string LimitMessage(const LimitLine& line) {
+  const LimitRec& limit = line.Limit;
+  const std::string start = "You must buy at least " + line.Minimum + " units of ";
   if (!limit.Class.empty()) return start + "class " + limit.Class;
   if (!limit.TypeB.empty()) return start + "type " + limit.TypeA + " or " + limit.TypeB;
   return start + "type " + limit.TypeA;
@@ -41,22 +40,36 @@ Int16 CountFor(const LimitRec& limit, const UnitRec& unit) {
   return CountFor(limit, one);
 }
 
-bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
+bool LimitLine::IsMet() const {
+  return LenientNumber(Minimum) <= Have.Value();
+}
+
+LimitLine CountLimit(const ArmyState& state, Int16 j, const UnitCounts& counts) {
+  const LimitRec& limit = state.Limits[LenientInt16(state.Units.TypeLimit[j].Tag)];
+  return {limit, state.Units.MinLimit[j].Caption, CountFor(limit, counts)};
+}
+
+std::vector<Shortfall> Shortfalls(const ArmyState& state, std::size_t most) {
+  std::vector<Shortfall> missing;
   const UnitCounts counts = CountUnits(state);
-  for (Int16 j = 0; j < state.TotLimits; ++j) {
-    const LimitRec& limit = state.Limits[LenientInt16(state.Units.TypeLimit[j].Tag)];
-    const std::string& minimum = state.Units.MinLimit[j].Caption;
-    if (LenientNumber(minimum) > CountFor(limit, counts).Value()) {
-      host.Message(LimitMessage(limit, minimum));
-      return false;
-    }
+  for (Int16 j = 0; j < state.TotLimits && missing.size() < most; ++j) {
+    const LimitLine line = CountLimit(state, j, counts);
+    if (!line.IsMet()) missing.push_back({LimitMessage(line), Panel::Units});
   }
-  if (state.SelectedLeader == -1) {
-    host.Message("Please select a Leader");
-    return false;
+  if (state.SelectedLeader == -1 && missing.size() < most) {
+    missing.push_back({"Please select a Leader", Panel::Command});
   }
-  if (confirm) host.Message("Army is OK");
-  return true;
+  return missing;
+}
+
+bool VerifyArmy(const ArmyState& state, Host& host, bool confirm) {
+  const std::vector<Shortfall> missing = Shortfalls(state, 1);
+  if (!missing.empty()) {
+    host.Message(missing.front().Message);
+  } else if (confirm) {
+    host.Message("Army is OK");
+  }
+  return missing.empty();
 }
 
 void VerifyBtn_Click(const ArmyState& state, Host& host) {
