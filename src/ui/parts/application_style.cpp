@@ -4,31 +4,54 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+
+#include "ui/parts/editor_style.h"
 
 namespace tarnwick {
 
+QColor TextColour() {
+  return {0x1B, 0x21, 0x24};
+}
+
+QColor HeadingColour(bool filled) {
+  return filled ? TextColour() : QColor(0x56, 0x60, 0x67);
+}
+
 QColor AccentColour() {
-  return {0x0B, 0x6E, 0x6E};
+  return {0x0B, 0x6B, 0x68};
+}
+
+QColor WarningColour() {
+  return {0x9A, 0x34, 0x12};
+}
+
+QColor MountedColour() {
+  return {0x55, 0x55, 0xFF};
+}
+
+QColor BorderColour() {
+  return {0x78, 0x83, 0x89};
+}
+
+QColor FrameColour() {
+  return {0xC3, 0xCB, 0xCF};
 }
 
 void ApplyStyle() {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new EditorStyle);
   const QColor window(0xF3, 0xF5, 0xF6);
-  QPalette palette(QColor(0xE9, 0xED, 0xEF), window);
-  palette.setColor(QPalette::WindowText, Qt::black);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::ButtonText, Qt::black);
+  QPalette palette(QColor(0xE6, 0xEA, 0xEC), window);
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, TextColour());
+    palette.setColor(QPalette::Disabled, role, QColor(0x5B, 0x65, 0x6B));
+  }
   palette.setColor(QPalette::Base, Qt::white);
   palette.setColor(QPalette::AlternateBase, window);
   palette.setColor(QPalette::Highlight, AccentColour());
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, Qt::white);
-  palette.setColor(QPalette::ToolTipText, Qt::black);
-  palette.setColor(QPalette::PlaceholderText, QColor(0x70, 0x78, 0x7C));
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, QColor(0x8A, 0x92, 0x96));
-  }
+  palette.setColor(QPalette::PlaceholderText, HeadingColour(false));
   QApplication::setPalette(palette);
 }
 

@@ -24,7 +24,9 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF area = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-  QColor fill = Qt::transparent;
+  // What chooses no panel stands apart.
+  const bool apart = !isCheckable();
+  QColor fill = apart ? Qt::white : Qt::transparent;
   if (isChecked()) {
     fill = AccentColour();
   } else if (isDown() || underMouse()) {
@@ -32,13 +34,13 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
     fill.setAlpha(isDown() ? 70 : 35);
   }
   painter.setBrush(fill);
-  painter.setPen(hasFocus()
-                     ? QPen(isChecked() ? palette().color(QPalette::Text) : AccentColour(), 2)
-                     : QPen(Qt::NoPen));
+  painter.setPen(apart ? QPen(BorderColour()) : QPen(Qt::NoPen));
+  if (hasFocus()) painter.setPen(QPen(isChecked() ? TextColour() : AccentColour(), 2));
   painter.drawRoundedRect(area, 5, 5);
-  painter.setPen(isChecked() ? Qt::white : palette().color(QPalette::ButtonText));
-  painter.drawText(area.adjusted(fontMetrics().height(), 0, 0, 0),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, text());
+  painter.setPen(isChecked() ? Qt::white : TextColour());
+  painter.drawText(
+      area.adjusted(apart ? 0 : fontMetrics().height(), 0, 0, 0),
+      (apart ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
 }
 
 }  // namespace tarnwick

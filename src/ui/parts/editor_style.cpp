@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/parts/editor_style.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+#include <QStyleOption>
+
+#include "ui/parts/application_style.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double corner = 3;
+
+/// Painting that leaves the painter as it was.
+class Pen {
+ public:
+  Pen(QPainter* painter, const QColor& colour, double width) : painter_(painter) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(Qt::NoBrush);
+  }
+  ~Pen() { painter_->restore(); }
+  Pen(const Pen&) = delete;
+  Pen& operator=(const Pen&) = delete;
+
+ private:
+  QPainter* painter_;
+};
+
+void DrawFocus(const QRect& around, QPainter* painter) {
+  const Pen pen(painter, AccentColour(), 2);
+  painter->drawRoundedRect(QRectF(around).adjusted(1, 1, -1, -1), corner, corner);
+}
+
+/// A box: its border, inside it `fill`.
+void DrawBox(const QStyleOption& option, QPainter* painter, const QBrush& fill) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  const bool byEnter = button && (button->features & QStyleOptionButton::DefaultButton);
+  {
+    const Pen pen(painter, byEnter ? AccentColour() : BorderColour(), 1);
+    painter->setBrush(fill);
+    painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+  }
+  if (option.state & QStyle::State_HasFocus) DrawFocus(option.rect, painter);
+}
+
+/// A frame that holds things together.
+void DrawFrame(const QRect& frame, QPainter* painter, const QBrush& fill) {
+  const Pen pen(painter, FrameColour(), 1);
+  painter->setBrush(fill);
+  painter->drawRoundedRect(QRectF(frame).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+}
+
+/// A frame below its title.
+void DrawGroup(const QStyleOptionGroupBox& box, QPainter* painter) {
+  const int titleHeight = box.fontMetrics.height();
+  DrawFrame(box.rect.adjusted(0, titleHeight + 4, 0, 0), painter, box.palette.base());
+  const Pen pen(painter, TextColour(), 1);
+  QFont bold = painter->font();
+  bold.setBold(true);
+  painter->setFont(bold);
+  painter->drawText(QRect(box.rect.topLeft(), QSize(box.rect.width(), titleHeight)),
+                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, box.text.trimmed());
+}
+
+QBrush ButtonFill(const QStyleOption& option) {
+  if (!(option.state & QStyle::State_Enabled)) return Qt::NoBrush;
+  if (option.state & (QStyle::State_Sunken | QStyle::State_On)) return option.palette.midlight();
+  return option.palette.base();
+}
+
+/// The mark of an option or check box.
+void DrawMark(const QStyleOption& option, QPainter* painter, bool round) {
+  const QRectF area = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  const bool on = option.state & QStyle::State_On;
+  {
+    const Pen pen(painter, on ? AccentColour() : BorderColour(), 1);
+    painter->setBrush(ButtonFill(option));
+    const double radius = round ? area.width() / 2 : 2;
+    painter->drawRoundedRect(area, radius, radius);
+  }
+  if (!on) return;
+  const Pen pen(painter, AccentColour(), round ? area.width() / 2 : 2);
+  const auto at = [&](double x, double y) {
+    return area.topLeft() + QPointF(x * area.width(), y * area.height());
+  };
+  if (round) {
+    painter->drawPoint(area.center());
+  } else {
+    painter->drawPolyline(QPolygonF({at(.2, .5), at(.42, .72), at(.8, .28)}));
+  }
+}
+
+}  // namespace
+
+int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* answer) const {
+  // Over a drop-down list the wheel scrolls the panel that the list stands on.
+  if (hint == SH_ComboBox_AllowWheelScrolling) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+  switch (element) {
+    case PE_FrameFocusRect: {
+      const auto* button = qobject_cast<const QAbstractButton*>(widget);
+      // A push button shows it with its border.
+      if (button != nullptr && button->inherits("QPushButton")) return;
+      DrawFocus(button != nullptr ? button->rect() : option->rect, painter);
+      return;
+    }
+    case PE_PanelButtonCommand:
+      DrawBox(*option, painter, ButtonFill(*option));
+      return;
+    case PE_Frame:
+    case PE_FrameLineEdit:
+      if (widget != nullptr && widget->focusPolicy() == Qt::NoFocus) {
+        DrawFrame(option->rect, painter, Qt::NoBrush);
+      } else {
+        DrawBox(*option, painter, Qt::NoBrush);
+      }
+      return;
+    case PE_IndicatorRadioButton:
+    case PE_IndicatorCheckBox:
+      DrawMark(*option, painter, element == PE_IndicatorRadioButton);
+      return;
+    default:
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+  if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
+    DrawGroup(*box, painter);
+    return;
+  }
+  if (control != CC_ComboBox) {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    return;
+  }
+  DrawBox(*option, painter, ButtonFill(*option));
+  QStyleOption arrow = *option;
+  arrow.rect = subControlRect(control, option, SC_ComboBoxArrow, widget);
+  QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
+}
+
+}  // namespace tarnwick
