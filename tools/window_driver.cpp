@@ -13,10 +13,13 @@
 #include <QComboBox>
 #include <QDrag>
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QLayout>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QRegularExpression>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -41,6 +44,13 @@ void CarryOver(QWidget& source, QWidget& target, const WindowDriver::Script& onT
   QApplication::sendEvent(&target, &drop);
 }
 
+/// Brings a widget into view as a user would, where it stands on something that scrolls.
+void ScrollTo(QWidget& widget) {
+  for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(parent)) scroll->ensureWidgetVisible(&widget);
+  }
+}
+
 /// A thing in a picture.
 QString Seen(const QWidget& widget) {
   QString seen = widget.objectName() + " \"" + WindowDriver::TextOf(widget) + "\"";
@@ -54,6 +64,9 @@ QString Seen(const QWidget& widget) {
 
 /// What a window holds. Things are in a row when they begin above the end of the highest of them.
 QString PictureOf(const QWidget& window, const QString& indent) {
+  if (const auto* scroll = qobject_cast<const QScrollArea*>(&window)) {
+    return PictureOf(*scroll->viewport(), indent);
+  }
   auto parts = window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   parts.removeIf([](const QWidget* part) { return part->isWindow() || !part->isVisible(); });
   const auto fromAbove = [](const QWidget* part) { return std::pair(part->y(), part->x()); };
@@ -71,7 +84,8 @@ QString PictureOf(const QWidget& window, const QString& indent) {
       const QRect place = (*part)->geometry();
       seen.append(Seen(**part) + (taken.intersects(place) ? " (covers another)" : ""));
       taken += place;
-      if ((*part)->layout() != nullptr) held += PictureOf(**part, indent + "  ");
+      if ((*part)->layout() != nullptr || (*part)->inherits("QScrollArea"))
+        held += PictureOf(**part, indent + "  ");
     }
     picture += indent + seen.join(" | ") + "\n" + held;
   }
@@ -140,7 +154,13 @@ int WindowDriver::Rows(const QString& array) {
 
 QString WindowDriver::TextOf(const QWidget& widget) {
   for (const char* property : {"text", "title", "plainText", "currentText"}) {
-    if (widget.property(property).isValid()) return widget.property(property).toString();
+    if (!widget.property(property).isValid()) continue;
+    static const QRegularExpression keyMark("&(.)");
+    QString text = widget.property(property).toString();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    const bool marked = label ? label->buddy() != nullptr
+                              : widget.inherits("QAbstractButton") || widget.inherits("QGroupBox");
+    return marked ? text.replace(keyMark, "\\1") : text;
   }
   return "";
 }
@@ -164,6 +184,7 @@ QString WindowDriver::Picture(const QString& name) const {
 
 void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
   if (!widget.isEnabled()) Fail(widget.objectName() + " is idle");
+  ScrollTo(widget);
   const QPoint there = widget.mapTo(widget.window(), position);
   const QWidget* hit = widget.window()->childAt(there);
   if (!widget.isAncestorOf(hit)) {

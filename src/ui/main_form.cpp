@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_form.h"
 
+#include <array>
+#include <iterator>
+
 #include <QAction>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -15,6 +21,7 @@
 #include "ui/panels/management_panel.h"
 #include "ui/panels/monster_panel.h"
 #include "ui/panels/setup_panel.h"
+#include "ui/panels/summary_panel.h"
 #include "ui/panels/terrain_panel.h"
 #include "ui/panels/units_panel.h"
 #include "ui/parts/panel_button.h"
@@ -24,19 +31,43 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// A narrower window has the summary in a strip below the panels.
+constexpr int narrow = 1200;
+
+/// Keys, and the buttons that they press one after the other.
+constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
+    {"Ctrl+1", {"ShowUnitsBtn"}},
+    {"Ctrl+2", {"ShowCommandBtn"}},
+    {"Ctrl+3", {"ShowDetailBtn"}},
+    {"Ctrl+4", {"ShowTerrainBtn"}},
+    {"Ctrl+5", {"ShowSetup"}},
+    {"Ctrl+6", {"ShowSaveFrame"}},
+    {"Ctrl+N", {"ShowSaveFrame", "NewArmyBtn"}},
+    {"Ctrl+O", {"ShowSaveFrame", "LoadBtn"}}};
+
+}  // namespace
+
 MainForm::MainForm(Session& session) : session_(session) {
   setObjectName("MainForm");
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(NewButtonColumn());
-  layout->addWidget(NewPanelStack(), 1);
+  contents_ = new QBoxLayout(QBoxLayout::LeftToRight);
+  contents_->addWidget(NewPanelStack(), 1);
+  summary_ = new SummaryPanel(
+      session_, [this](Panel panel) { Open(panel); }, this);
+  contents_->addWidget(summary_);
+  layout->addLayout(contents_, 1);
+  AddShortcuts();
   session_.OnChange(this, [this] { Refresh(); });
 }
 
 bool MainForm::Start() {
   if (!session_.Run([this] { Form_Load(session_.Work, session_.Store); })) return false;
-  editFrame_->currentWidget()->setFocus();
+  panels_.at(static_cast<std::size_t>(session_.Work.Army.EditFrame.Front))->FocusFirst();
   return true;
 }
 
@@ -46,10 +77,63 @@ void MainForm::Refresh() {
   if (windowTitle() != title) setWindowTitle(title);
   for (PanelWidget* panel : panels_)
     panel->Refresh();
+  summary_->Refresh();
   const int front = static_cast<int>(army.EditFrame.Front);
-  if (editFrame_->currentIndex() != front) editFrame_->setCurrentIndex(front);
+  if (editFrame_->currentIndex() != front) {
+    editFrame_->setCurrentIndex(front);
+    panels_.at(static_cast<std::size_t>(front))->FocusFirst();
+  }
   for (const auto& [panel, button] : panelButtons_)
     button->setChecked(panel == army.EditFrame.Front);
+}
+
+void MainForm::keyPressEvent(QKeyEvent* event) {
+  auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && button != nullptr) {
+    button->click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void MainForm::resizeEvent(QResizeEvent* event) {
+  const bool folded = width() < narrow;
+  const auto direction = folded ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+  if (contents_->direction() != direction) {
+    contents_->setDirection(direction);
+    summary_->Fold(folded);
+  }
+  QWidget::resizeEvent(event);
+}
+
+void MainForm::AddShortcuts() {
+  const auto add = [this](const QKeySequence& key, const std::function<void()>& act) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+  };
+  for (const auto& [key, buttons] : shortcuts) {
+    add(QKeySequence(key), [this, &buttons = buttons] {
+      for (const char* name : buttons)
+        if (name != nullptr) findChild<QAbstractButton*>(name)->click();
+    });
+  }
+  add(QKeySequence("Ctrl+PgUp"), [this] { Step(-1); });
+  add(QKeySequence("Ctrl+PgDown"), [this] { Step(1); });
+  add(QKeySequence("Ctrl+Q"), [this] { close(); });
+}
+
+void MainForm::Open(Panel panel) {
+  for (const auto& [shown, button] : panelButtons_)
+    if (shown == panel) button->click();
+}
+
+void MainForm::Step(int by) {
+  const auto front = std::ranges::find(panelButtons_, session_.Work.Army.EditFrame.Front,
+                                       &decltype(panelButtons_)::value_type::first);
+  const auto next = (front - panelButtons_.begin()) + by;
+  if (next >= 0 && next < std::ssize(panelButtons_)) {
+    panelButtons_[static_cast<std::size_t>(next)].second->click();
+  }
 }
 
 QWidget* MainForm::NewButtonColumn() {
@@ -58,14 +142,14 @@ QWidget* MainForm::NewButtonColumn() {
   column->setBackgroundRole(QPalette::Button);
   auto* layout = new QVBoxLayout(column);
   layout->setSpacing(2);
-  AddPanelButton(layout, "ShowUnitsBtn", "Units", Panel::Units);
-  AddPanelButton(layout, "ShowCommandBtn", "Command", Panel::Command);
-  AddPanelButton(layout, "ShowDetailBtn", "Detail", Panel::Detail);
-  AddPanelButton(layout, "ShowTerrainBtn", "Terrain", Panel::Terrain,
+  AddPanelButton(layout, "ShowUnitsBtn", "&Units", Panel::Units);
+  AddPanelButton(layout, "ShowCommandBtn", "&Command", Panel::Command);
+  AddPanelButton(layout, "ShowDetailBtn", "&Detail", Panel::Detail);
+  AddPanelButton(layout, "ShowTerrainBtn", "&Terrain", Panel::Terrain,
                  [this] { ShowTerrainBtn_Click(session_.Work.Field, session_.Work.Army); });
-  AddPanelButton(layout, "ShowSetup", "Setup", Panel::Setup,
+  AddPanelButton(layout, "ShowSetup", "&Setup", Panel::Setup,
                  [this] { ShowSetup_Click(session_.Work.Field, session_.Work.Army); });
-  AddPanelButton(layout, "ShowSaveFrame", "Load/Save", Panel::Management);
+  AddPanelButton(layout, "ShowSaveFrame", "&Load/Save", Panel::Management);
   layout->addSpacing(16);
   AddQuickSave(layout);
   layout->addStretch();
@@ -87,7 +171,7 @@ void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char*
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {
-  auto* button = new PanelButton("QuickSave", "QuickSave", this);
+  auto* button = new PanelButton("QuickSave", "&QuickSave", this);
   column->addWidget(button);
   auto* entry = Named(new QAction("QuickSave", this), "mQuickSave");
   entry->setShortcut(QKeySequence::Save);
@@ -108,8 +192,14 @@ QWidget* MainForm::NewPanelStack() {
              new DetailPanelWidget(session_),     new TerrainPanelWidget(session_),
              new ManagementPanelWidget(session_), new MonsterPanelWidget(session_),
              new SetupPanelWidget(session_)};
-  for (PanelWidget* panel : panels_)
-    editFrame_->addWidget(panel);
+  for (PanelWidget* panel : panels_) {
+    auto* scroll = new QScrollArea(stack);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(panel);
+    editFrame_->addWidget(scroll);
+  }
   return stack;
 }
 

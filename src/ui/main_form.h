@@ -10,6 +10,7 @@
 
 #include "rules/army_state.h"
 
+class QBoxLayout;
 class QStackedLayout;
 class QVBoxLayout;
 
@@ -18,8 +19,9 @@ namespace tarnwick {
 class PanelButton;
 class PanelWidget;
 class Session;
+class SummaryPanel;
 
-/// The main window: the column of panel buttons and the stack of panels.
+/// The main window: the column of panel buttons, the stack of panels, the summary.
 class MainForm : public QWidget {
  public:
   explicit MainForm(Session& session);
@@ -30,17 +32,26 @@ class MainForm : public QWidget {
   /// Shows the whole state.
   void Refresh();
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QWidget* NewButtonColumn();
   void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel,
                       std::function<void()> show = nullptr);
   void AddQuickSave(QVBoxLayout* column);
   QWidget* NewPanelStack();
+  void AddShortcuts();
+  void Open(Panel panel);
+  void Step(int by);
 
   Session& session_;
   std::vector<std::pair<Panel, PanelButton*>> panelButtons_;
   std::vector<PanelWidget*> panels_;
   QStackedLayout* editFrame_ = nullptr;
+  QBoxLayout* contents_;  ///< panels and summary
+  SummaryPanel* summary_;
 };
 
 }  // namespace tarnwick

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
+#include <QTimer>
+
 #include "ui_fixture.h"
 
 namespace tarnwick {
 
 TEST_F(WindowTest, SaysWhatItSaysWhereItSaysIt) {
-  EXPECT_EQ(Form.focusWidget()->objectName(), "NewArmyBtn");
+  EXPECT_EQ(Form.focusWidget()->objectName(), "modOption(0)");
   QString seen = Picture("MainForm");
   const auto openDialog = [&](const char* button, const char* dialog) {
     OnDialog([&seen, dialog, this] {
@@ -32,6 +34,73 @@ TEST_F(WindowTest, SaysWhatItSaysWhereItSaysIt) {
   Click("ShowSetup", "Command3");
   seen += Picture("EditFrame(5)");
   EXPECT_EQ(seen.toStdString(), TempFolder::ReadBytes(TEST_DATA "/window.txt"));
+}
+
+TEST_F(WindowTest, TheSummaryLeadsToWhatIsMissing) {
+  EXPECT_EQ(Entries("StillMissing"), (QStringList{"New army", "Load army"}));
+  NewArmy(0);
+  EXPECT_EQ(Entries("StillMissing").front(), "You must buy at least 4 units of type HI");
+  const auto panel = [this](int line) {
+    Click("ShowDetailBtn");
+    ClickEntry("StillMissing", line);
+    return Work.Army.EditFrame.Front;
+  };
+  EXPECT_EQ(panel(0), Panel::Units);
+  EXPECT_EQ(panel(5), Panel::Command);
+  EXPECT_EQ(Form.focusWidget()->objectName(), "LeaderName(0)");
+  Click("ShowUnitsBtn");
+  Fill({{"Buy(0)", "3"}, {"Buy(1)", "2"}});
+  EXPECT_EQ(Texts("HaveLimit(0)", "MinLimit(0)", "HaveLimit(1)"), (QStringList{"3", "4", "2"}));
+  EXPECT_EQ(Find("TypeLimit(0)").toolTip(), "Counts: HI 3\nDoesn't: HI[Vet] 2");
+  EXPECT_TRUE(Find("TypeLimit(0)").font().bold() && !Find("TypeLimit(1)").font().bold());
+  EXPECT_EQ(Text("CommandLeft"), "Command left: 250 of 250");
+  LoadTrebia();
+  EXPECT_EQ(Texts("CommandLeft", "SummaryLeader"),
+            (QStringList{"Command left: 200 of 250", "Hanno of Bruttium"}));
+  EXPECT_EQ(panel(0), Panel::Management);
+
+  Form.resize(1000, 700);
+  Settle();
+  EXPECT_FALSE(Sees("StillMissing"));
+  Click("ShowUnitsBtn");
+  Fill({{"Buy(0)", "0"}});
+  QTimer::singleShot(50, [this] {
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+  });
+  Click("ShowSaveFrame", "StillMissingMenu");
+  EXPECT_EQ(Work.Army.EditFrame.Front, Panel::Units);
+}
+
+TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
+  LoadTrebia();
+  const auto front = [this](Qt::Key key) {
+    Press(key, Qt::ControlModifier);
+    return Work.Army.EditFrame.Front;
+  };
+  int key = Qt::Key_1;
+  for (const auto& [button, panel] : PanelButtons)
+    EXPECT_EQ(front(Qt::Key(key++)), panel) << button;
+  EXPECT_EQ(front(Qt::Key_PageDown), Panel::Management);
+  EXPECT_EQ(front(Qt::Key_PageUp), Panel::Setup);
+  EXPECT_EQ(front(Qt::Key_PageUp), Panel::Terrain);
+  for (const Qt::Key opens : {Qt::Key_N, Qt::Key_O}) {
+    OnDialog([this] {
+      EXPECT_TRUE(Sees("ArmyList") && Work.Army.EditFrame.Front == Panel::Management);
+      CloseDialog();
+    });
+    front(Qt::Key_4);
+    Press(opens, Qt::ControlModifier);
+  }
+  Press(Qt::Key_C, Qt::AltModifier);
+  EXPECT_EQ(Work.Army.EditFrame.Front, Panel::Command);
+  PressIn("ShowUnitsBtn", Qt::Key_Return);
+  EXPECT_EQ(Work.Army.EditFrame.Front, Panel::Units);
+  Press(Qt::Key_M, Qt::AltModifier);
+  EXPECT_TRUE(Ticked("ViewOption(1)"));
+  Press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_FALSE(Form.isVisible());
+  Form.show();
 }
 
 TEST_F(WindowTest, QuantityBoxesTakeNoKeyBeyond16Bits) {

@@ -71,7 +71,7 @@ TEST_F(WindowTest, ALeaderIsChosenAmongTheArmysAndThePlayersOwn) {
   Click("ShowCommandBtn", "LeaderBtn", "LeaderName(5)");
   EXPECT_EQ(Rows("LeaderName"), 4);
   EXPECT_EQ(Texts("LeaderName(5)", "LeaderFrame"),
-            (QStringList{"Ben && Bo 40 [ 4 / 1 ] ", " Leaders (pts left: 210)"}));
+            (QStringList{"Ben & Bo 40 [ 4 / 1 ] ", " Leaders (pts left: 210)"}));
   Work.Army.CommandPts = 100;
   Press(Qt::Key_Up);  // 60 dearer
   Press(Qt::Key_Up);

@@ -171,10 +171,10 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
     if constexpr (requires { control.Value; }) expect(Ticked(widget), control.Value);
     if constexpr (requires { control.Text.size(); }) expect(TextOf(widget), ToQt(control.Text));
     if constexpr (requires { control.Caption; } && !std::is_same_v<Control, Button>) {
-      expect(TextOf(widget), label ? ToQt(control.Caption) : ButtonText(control.Caption));
+      expect(TextOf(widget), ToQt(control.Caption));
     }
     if constexpr (requires { control.ForeColor; }) {
-      const bool blue = widget.palette().color(QPalette::WindowText) == QColor(0x55, 0x55, 0xFF);
+      const bool blue = widget.palette().color(widget.foregroundRole()) == QColor(0x55, 0x55, 0xFF);
       if (label) expect(blue, control.ForeColor == Colour::LightBlue);
     }
     if constexpr (requires { control.Entries; }) {

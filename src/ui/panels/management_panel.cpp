@@ -75,7 +75,6 @@ QWidget* ManagementPanelWidget::NewButtons() {
   layout->addWidget(warning, 1, 2, 1, 2);  // as wide as the panel allows
   layout->setColumnStretch(3, 1);
   bindings_.Add([this, warning] { ShowWarning(warning, BaseArmyWarning(army_)); });
-  setFocusProxy(newArmy);
   session_.Connect(newArmy, [this] { NewArmyBtn_Click(work_, disk_, user_); });
   session_.Connect(load, [this] { LoadBtn_Click(work_, disk_, user_); });
   session_.Connect(save, [this] { SaveArmy(work_, disk_, user_); });

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/panel_widget.h"
 
-#include <QVBoxLayout>
+#include <QHBoxLayout>
 
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
@@ -10,15 +10,21 @@
 namespace tarnwick {
 
 PanelWidget::PanelWidget(Panel panel, const QString& caption, Session& session)
-    : session_(session), body_(new QVBoxLayout(this)) {
-  body_->setContentsMargins(18, 12, 18, 12);
+    : session_(session), body_(new QVBoxLayout(this)), titleLine_(new QHBoxLayout) {
+  body_->setContentsMargins(16, 12, 16, 12);
   setObjectName(ElementName("EditFrame", static_cast<int>(panel)));
-  auto* title = NewLabel("", caption, this);
-  QFont font = title->font();
-  font.setPointSizeF(font.pointSizeF() * 1.4);
-  font.setBold(true);
-  title->setFont(font);
-  body_->addWidget(title);
+  titleLine_->setSpacing(16);
+  titleLine_->addWidget(NewTitle(caption, this));
+  body_->addLayout(titleLine_);
+}
+
+void PanelWidget::FocusFirst() {
+  for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+    const bool takes = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled();
+    if (!takes || !isAncestorOf(next) || !next->isVisibleTo(this)) continue;
+    next->setFocus(Qt::TabFocusReason);
+    return;
+  }
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include "ui/parts/bindings.h"
 #include "ui/parts/session.h"
 
+class QHBoxLayout;
 class QVBoxLayout;
 
 namespace tarnwick {
@@ -20,8 +21,13 @@ class PanelWidget : public QWidget {
   /// Shows the state.
   virtual void Refresh() { bindings_.Refresh(); }
 
+  /// Gives the focus to the first control that takes it.
+  void FocusFirst();
+
  protected:
   QVBoxLayout* Body() { return body_; }
+  /// The line of the title, for what belongs to the panel as a whole.
+  QHBoxLayout* TitleLine() { return titleLine_; }
 
   Session& session_;
   WorkingArmy& work_ = session_.Work;
@@ -34,6 +40,7 @@ class PanelWidget : public QWidget {
 
  private:
   QVBoxLayout* body_;
+  QHBoxLayout* titleLine_;
 };
 
 }  // namespace tarnwick

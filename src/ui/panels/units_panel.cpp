@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/units_panel.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -10,182 +13,224 @@
 #include <QVBoxLayout>
 
 #include "armyfile/resetting.h"
+#include "base/numbers.h"
 #include "rules/unit_grid.h"
 #include "rules/unit_purchase.h"
 #include "rules/verification.h"
 #include "ui/parts/qt_text.h"
+#include "ui/parts/unit_pictures.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 namespace {
 
-/// The grid's columns from left to right, the last two without a heading of their own in the rules.
-enum Column { type, unitClass, tq, unitSize, missile, cost, most, total, buy, image, view, spec };
+/// The grid's columns from left to right.
+enum Column {
+  picture,
+  type,
+  unitClass,
+  tq,
+  unitSize,
+  missile,
+  cost,
+  most,
+  total,
+  buy,
+  image,
+  view,
+  spec
+};
 
 struct Heading {
   const char* Name;
   const char* Caption;
   int Characters;  ///< the column's width in digits; 0 takes what is left
   bool Number;
+  const char* Tip;
 };
 
-constexpr std::array<Heading, 12> headings = {{{"Label9", "Type", 5, false},
-                                               {"Label10", "Cls", 5, false},
-                                               {"Label11", "TQ", 5, true},
-                                               {"Label12", "Sz", 4, true},
-                                               {"Label13", "Mis", 5, false},
-                                               {"Label14", "$$", 5, true},
-                                               {"Label15", "Max", 5, true},
-                                               {"Label16", "Total", 7, true},
-                                               {"Label17", "Buy", 7, true},
-                                               {"Label1", "Image", 0, false},
-                                               {"ViewBtn", "", 7, false},
-                                               {"SpecialTitle", "Special", 7, false}}};
+constexpr std::array<Heading, 13> headings = {
+    {{"", "", 3, false, ""},
+     {"Label9", "Type", 5, false, "Type of the unit"},
+     {"Label10", "Cls", 4, false, "Class within the type"},
+     {"Label11", "TQ", 3, true, "Troop quality"},
+     {"Label12", "Sz", 3, true, "Size"},
+     {"Label13", "Mis", 4, false, "Missile ability"},
+     {"Label14", "$$", 3, true, "Army points for one unit"},
+     {"Label15", "Max", 4, true, "Most units that can be bought"},
+     {"Label16", "Total", 5, true, "Army points for the units bought"},
+     {"Label17", "Buy", 6, true, "How many units to buy"},
+     {"Label1", "Image", 0, false, "The picture that the game shows"},
+     {"ViewBtn", "", 6, false, ""},
+     {"SpecialTitle", "Special", 7, false, "Special abilities"}}};
+
+/// The type codes that go by a word.
+constexpr std::pair<const char*, const char*> typeWords[] = {
+    {"SK", "Skirmishers"}, {"PH", "Phalanx"}, {"EL", "Elephants"},
+    {"CH", "Chariots"},    {"SM", "Monster"}, {"LM", "Monster"}};
 
 constexpr int gridLines = 23;
-constexpr int limitLines = 7;
+
+QString TypeWord(const std::string& code) {
+  const auto* word =
+      std::ranges::find(typeWords, code, [](const auto& known) { return known.first; });
+  return word != std::end(typeWords) ? word->second : "";
+}
 
 }  // namespace
 
 UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units, "Units", session) {
-  auto* top = new QHBoxLayout;
-  top->addWidget(NewViewFrame());
-  top->addWidget(NewSummaryFrame(), 1);
-  Body()->addLayout(top);
-
-  auto* middle = new QHBoxLayout;
-  middle->addWidget(NewGrid(), 1);
-  auto* side = new QVBoxLayout;
-  side->addWidget(NewLimitsFrame());
-  auto* verify = Named(new QPushButton("Verify army", this), "VerifyBtn");
-  auto* reset = Named(new QPushButton("Reset army", this), "ResetArmy");
-  side->addWidget(verify);
-  side->addWidget(reset);
-  side->addStretch();
-  middle->addLayout(side);
-  Body()->addLayout(middle, 1);
-
+  TitleLine()->addWidget(NewViewFrame());
+  TitleLine()->addStretch();
+  auto* verify = Named(new QPushButton("&Verify army", this), "VerifyBtn");
+  auto* reset = Named(new QPushButton("&Reset army", this), "ResetArmy");
+  TitleLine()->addWidget(verify);
+  TitleLine()->addWidget(reset);
+  Body()->addWidget(NewGrid());
+  Body()->addStretch();
   session_.Connect(verify, [this] { VerifyBtn_Click(army_, user_); });
   session_.Connect(reset, [this] { ResetArmy_Click(work_, disk_); });
 }
 
 QWidget* UnitsPanelWidget::NewViewFrame() {
-  auto* frame = NewFrame("Frame4", "View ", this);
-  auto* layout = new QHBoxLayout(frame);
-  auto* views = NewOptions("ViewOption", 3, layout, frame);
+  auto* frame = NewLineFrame("Frame4", "View ", this);
+  auto* views = NewOptions("ViewOption", 3, frame->layout(), frame, "IMB");
   bindings_.Add(views, army_.Units.ViewOption);
   session_.Connect(views, [this] { ViewOption_Click(army_, disk_); });
   return frame;
 }
 
-QWidget* UnitsPanelWidget::NewSummaryFrame() {
-  auto* frame = NewFrame("Frame1", "Summary", this);
-  auto* layout = new QHBoxLayout(frame);
-  layout->addWidget(bindings_.Add(NewLabel("TotalCost", "", frame), army_.Units.TotalCost));
-  layout->addStretch();
-  layout->addWidget(bindings_.Add(NewLabel("TQinfo", "", frame), army_.Units.TQinfo));
-  return frame;
-}
-
 QWidget* UnitsPanelWidget::NewGrid() {
-  auto* grid = new QWidget(this);
-  auto* layout = new QGridLayout(grid);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setVerticalSpacing(1);
-  layout->setHorizontalSpacing(12);
-  AddGridHeadings(grid, layout);
-  for (int line = 0; line < gridLines; ++line)
-    AddGridLine(line, grid, layout);
-  layout->setRowStretch(gridLines + 1, 1);
+  auto* grid = new QFrame(this);
+  grid->setFrameStyle(QFrame::StyledPanel);
+  grid->setAutoFillBackground(true);
+  grid->setBackgroundRole(QPalette::Base);
+  grid_ = new QGridLayout(grid);
+  grid_->setContentsMargins(8, 4, 8, 4);
+  grid_->setVerticalSpacing(0);
+  grid_->setHorizontalSpacing(8);
+  AddHeadings();
+  for (int line = 0; line < gridLines; ++line) {
+    AddTexts(line);
+    AddQuantity(line);
+    AddPictures(line);
+    AddAbilities(line);
+  }
   return grid;
 }
 
-void UnitsPanelWidget::AddGridHeadings(QWidget* grid, QGridLayout* layout) {
+void UnitsPanelWidget::AddHeadings() {
+  QWidget* grid = grid_->parentWidget();
   for (int column = 0; column < static_cast<int>(headings.size()); ++column) {
     const Heading& heading = headings.at(static_cast<std::size_t>(column));
-    if (column != view) {
-      auto* label = NewLabel(heading.Name, heading.Caption, grid);
-      label->setForegroundRole(QPalette::PlaceholderText);
-      if (heading.Number) label->setAlignment(Qt::AlignRight);
-      layout->addWidget(label, 0, column);
-    }
-    layout->setColumnMinimumWidth(column, TextWidth(grid, heading.Characters));
+    grid_->setColumnMinimumWidth(column, TextWidth(grid, heading.Characters));
+    if (*heading.Caption == 0) continue;
+    auto* label = NewHint(heading.Name, heading.Caption, grid);
+    label->setToolTip(heading.Tip);
+    if (heading.Number) label->setAlignment(Qt::AlignRight);
+    grid_->addWidget(label, 0, column);
   }
-  layout->setColumnStretch(image, 3);
-  layout->setColumnStretch(static_cast<int>(headings.size()), 1);
+  grid_->setColumnStretch(image, 3);
+  grid_->setColumnStretch(spec, 1);
 }
 
-void UnitsPanelWidget::AddGridLine(int line, QWidget* grid, QGridLayout* layout) {
+void UnitsPanelWidget::AddTexts(int line) {
   UnitsPanel& units = army_.Units;
-  const auto put = [&](auto* widget, Column column, auto& control) {
-    layout->addWidget(bindings_.Add(widget, control), line + 1, column);
-  };
-  const auto putLabel = [&](const char* name, Column column, const Label& control) {
+  QWidget* grid = grid_->parentWidget();
+  const auto put = [&](const char* name, Column column, const Label& control) {
     const bool number = headings.at(column).Number;
     auto* label = number ? NewNumberLabel(ElementName(name, line), grid)
                          : NewLabel(ElementName(name, line), "", grid);
     // A catalog's odd long text is cut; it must not push the other columns about.
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    put(label, column, control);
+    grid_->addWidget(bindings_.Add(label, control), line + 1, column);
+    return label;
   };
-  putLabel("TypeLabel", type, units.TypeLabel[line]);
-  putLabel("ClassLabel", unitClass, units.ClassLabel[line]);
-  putLabel("TQLabel", tq, units.TQLabel[line]);
-  putLabel("SizeLabel", unitSize, units.SizeLabel[line]);
-  putLabel("MissileLabel", missile, units.MissileLabel[line]);
-  putLabel("CostLabel", cost, units.CostLabel[line]);
-  putLabel("MaxLabel", most, units.MaxLabel[line]);
-  putLabel("UnitTotalLabel", total, units.UnitTotalLabel[line]);
+  auto* typeLabel = put("TypeLabel", type, units.TypeLabel[line]);
+  put("ClassLabel", unitClass, units.ClassLabel[line]);
+  put("TQLabel", tq, units.TQLabel[line]);
+  put("SizeLabel", unitSize, units.SizeLabel[line]);
+  put("MissileLabel", missile, units.MissileLabel[line]);
+  put("CostLabel", cost, units.CostLabel[line]);
+  put("MaxLabel", most, units.MaxLabel[line]);
+  auto* totalLabel = put("UnitTotalLabel", total, units.UnitTotalLabel[line]);
+  auto* horseshoe = new Horseshoe(grid);
+  grid_->addWidget(horseshoe, line + 1, type, Qt::AlignRight | Qt::AlignVCenter);
+  bindings_.Add([&units, line, typeLabel, totalLabel, horseshoe] {
+    const Label& code = units.TypeLabel[line];
+    horseshoe->setVisible(code.Visible && code.ForeColor == Colour::LightBlue);
+    typeLabel->setToolTip(TypeWord(code.Caption));
+    ShowBold(totalLabel, LenientNumber(units.UnitTotalLabel[line].Caption) != 0);
+  });
+}
 
-  auto* quantity = NewQuantityBox(ElementName("Buy", line), grid);
-  quantity->setFixedWidth(TextWidth(grid, headings[buy].Characters));
-  put(quantity, buy, units.Buy[line]);
+void UnitsPanelWidget::AddQuantity(int line) {
+  auto* quantity = NewQuantityBox(ElementName("Buy", line), grid_->parentWidget());
+  quantity->setFixedWidth(TextWidth(quantity, headings[buy].Characters));
+  grid_->addWidget(bindings_.Add(quantity, army_.Units.Buy[line]), line + 1, buy);
   session_.Guard(quantity, [this, line] { return Buy_Validate(army_, disk_, user_, line); });
+}
 
+void UnitsPanelWidget::AddPictures(int line) {
+  UnitsPanel& units = army_.Units;
+  QWidget* grid = grid_->parentWidget();
   auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
   // Its width is the column's; a policy that measures entries would cost at the start.
   pictures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  pictures->setMinimumWidth(TextWidth(pictures, 18));
-  pictures->setMaximumWidth(TextWidth(pictures, 40));
+  pictures->setMinimumWidth(TextWidth(pictures, 12));
+  pictures->setMaximumWidth(TextWidth(pictures, 36));
   pictures->setFocusPolicy(Qt::StrongFocus);
-  put(pictures, image, units.ImageName[line]);
+  grid_->addWidget(bindings_.Add(pictures, units.ImageName[line]), line + 1, image);
   session_.Connect(pictures, [this, line] { ImageName_Click(army_, line); });
 
+  auto* thumbnail = new Thumbnail(grid);
+  grid_->addWidget(thumbnail, line + 1, picture);
+  bindings_.Add([this, pictures, thumbnail, &list = units.ImageName[line]] {
+    ShowPictures(pictures, list, army_, disk_);
+    thumbnail->setVisible(list.Visible);
+    thumbnail->Show(pictures->itemIcon(pictures->currentIndex()));
+  });
+
   auto* show = Named(new QPushButton("View", grid), ElementName("ViewBtn", line));
-  show->setFixedHeight(quantity->sizeHint().height());
-  layout->addWidget(show, line + 1, view);
+  show->setFixedSize(TextWidth(show, 8), pictures->sizeHint().height());
+  grid_->addWidget(show, line + 1, view);
   bindings_.AddVisible(show, units.ViewBtn[line].Visible);
   session_.Connect(show, [this, line] { ViewBtn_Click(army_, disk_, user_, line); });
+}
 
-  auto* abilities = Named(new QToolButton(grid), ElementName("specLabel", line));
+void UnitsPanelWidget::AddAbilities(int line) {
+  Label& label = army_.Units.specLabel[line];
+  auto* abilities = Named(new QToolButton(grid_->parentWidget()), ElementName("specLabel", line));
   abilities->setAutoRaise(true);
   abilities->setFocusPolicy(Qt::StrongFocus);
-  abilities->setFixedHeight(quantity->sizeHint().height());
   abilities->setToolTip("Special abilities");
-  put(abilities, spec, units.specLabel[line]);
-  bindings_.Add([abilities, &label = units.specLabel[line]] {
-    abilities->setEnabled(!label.Caption.empty());
-  });
+  grid_->addWidget(bindings_.Add(abilities, label), line + 1, spec, Qt::AlignLeft);
+  bindings_.Add([abilities, &label] { abilities->setEnabled(!label.Caption.empty()); });
   session_.Connect(abilities, [this, line] { specLabel_Click(army_, disk_, user_, line); });
 }
 
-QWidget* UnitsPanelWidget::NewLimitsFrame() {
-  auto* frame = NewFrame("Frame2", "Limits", this);
-  auto* layout = new QGridLayout(frame);
-  auto* type = NewLabel("Label2", "Type", frame);
-  auto* minimum = NewLabel("Label3", "Min", frame);
-  for (QLabel* heading : {type, minimum})
-    heading->setForegroundRole(QPalette::PlaceholderText);
-  layout->addWidget(type, 0, 0);
-  layout->addWidget(minimum, 0, 1, Qt::AlignRight);
-  for (int line = 0; line < limitLines; ++line) {
-    auto* limit = NewLabel(ElementName("TypeLimit", line), "", frame);
-    auto* least = NewNumberLabel(ElementName("MinLimit", line), frame);
-    layout->addWidget(bindings_.Add(limit, army_.Units.TypeLimit[line]), line + 1, 0);
-    layout->addWidget(bindings_.Add(least, army_.Units.MinLimit[line]), line + 1, 1);
+void UnitsPanelWidget::Refresh() {
+  PanelWidget::Refresh();
+  FitRows();
+}
+
+void UnitsPanelWidget::resizeEvent(QResizeEvent* event) {
+  FitRows();
+  PanelWidget::resizeEvent(event);
+}
+
+void UnitsPanelWidget::FitRows() {
+  const auto& boxes = army_.Units.Buy;
+  const auto rows = static_cast<int>(
+      std::ranges::count_if(boxes, [](const TextBox& box) { return box.Visible; }));
+  const int heading = TitleLine()->sizeHint().height() + 4 * fontMetrics().height();
+  const int space = parentWidget()->height() - heading;
+  const int least = fontMetrics().height() + 11;
+  const int height = std::clamp(space / std::max(rows, 1), least, least * 3 / 2);
+  for (int line = 0; line < gridLines; ++line) {
+    const int wanted = line < rows ? height : 0;
+    if (grid_->rowMinimumHeight(line + 1) != wanted) grid_->setRowMinimumHeight(line + 1, wanted);
   }
-  layout->setColumnMinimumWidth(0, TextWidth(frame, 12));
-  return frame;
 }
 
 }  // namespace tarnwick

@@ -5,22 +5,31 @@
 #include "ui/panels/panel_widget.h"
 
 class QGridLayout;
-class QHBoxLayout;
 
 namespace tarnwick {
 
-/// Panel 0: the unit selection grid, the limits, the summary, verification.
+/// Panel 0: the unit selection grid, verification, reset.
 class UnitsPanelWidget : public PanelWidget {
  public:
   explicit UnitsPanelWidget(Session& session);
 
+  void Refresh() override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QWidget* NewViewFrame();
-  QWidget* NewSummaryFrame();
   QWidget* NewGrid();
-  void AddGridHeadings(QWidget* grid, QGridLayout* layout);
-  void AddGridLine(int line, QWidget* grid, QGridLayout* layout);
-  QWidget* NewLimitsFrame();
+  void AddHeadings();
+  void AddTexts(int line);
+  void AddQuantity(int line);
+  void AddPictures(int line);
+  void AddAbilities(int line);
+  /// Lets the rows share the height there is, within what looks well.
+  void FitRows();
+
+  QGridLayout* grid_ = nullptr;
 };
 
 }  // namespace tarnwick

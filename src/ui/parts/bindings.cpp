@@ -4,21 +4,15 @@
 
 #include <QSignalBlocker>
 
+#include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
+#include "ui/parts/widgets.h"
 
 namespace tarnwick {
 namespace {
 
 void ShowVisible(QWidget* widget, bool visible) {
   if (widget->isHidden() == visible) widget->setVisible(visible);
-}
-
-void ShowColour(QWidget* widget, Colour foreColor) {
-  const QColor colour = foreColor == Colour::LightBlue ? QColor(0x55, 0x55, 0xFF) : Qt::black;
-  QPalette palette = widget->palette();
-  if (palette.color(QPalette::WindowText) == colour) return;
-  palette.setColor(QPalette::WindowText, colour);
-  widget->setPalette(palette);
 }
 
 void ShowChecked(QAbstractButton* button, bool checked) {
@@ -64,7 +58,7 @@ void Bindings::Tie(QLabel* widget, const Label& control) {
   widget->setTextFormat(Qt::PlainText);
   Add([widget, &control] {
     ShowCaption(widget, ToQt(control.Caption));
-    ShowColour(widget, control.ForeColor);
+    ShowTextColour(widget, control.ForeColor == Colour::LightBlue ? MountedColour() : TextColour());
     ShowVisible(widget, control.Visible);
   });
 }
@@ -149,7 +143,7 @@ void Bindings::TieOptions(QButtonGroup* group, OptionButton* options, int count)
     group->setExclusive(false);  // an exclusive group can't be without a ticked option
     for (int i = 0; i < count; ++i) {
       QAbstractButton* button = group->button(i);
-      ShowCaption(button, ButtonText(options[i].Caption));
+      ShowCaption(button, ButtonText(options[i].Caption, button->property("key").toString()));
       ShowChecked(button, options[i].Value);
       ShowVisible(button, options[i].Visible);
     }

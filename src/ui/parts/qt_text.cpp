@@ -29,8 +29,10 @@ QString PlainText(const QPlainTextEdit& box) {
   return text;
 }
 
-QString ButtonText(std::string_view ansi) {
-  return ToQt(ansi).replace("&", "&&");
+QString ButtonText(std::string_view ansi, const QString& key) {
+  QString text = ToQt(ansi).replace("&", "&&");
+  const qsizetype place = key.isEmpty() ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
+  return place < 0 ? text : text.insert(place, '&');
 }
 
 QString ElementName(const char* array, int index) {

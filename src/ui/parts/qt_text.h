@@ -20,8 +20,9 @@ std::string FromQt(const QString& text);
 /// The text of a box of several lines; a no-break space stays one.
 QString PlainText(const QPlainTextEdit& box);
 
-/// `text` for a button, whose "&" would otherwise mark a shortcut.
-QString ButtonText(std::string_view ansi);
+/// A text for a button, whose own "&" marks nothing; the first `key` in it, if any, presses the
+/// button together with Alt.
+QString ButtonText(std::string_view ansi, const QString& key = "");
 
 /// The object name of an array's element: "Buy(3)".
 QString ElementName(const char* array, int index);

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include <QButtonGroup>
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -116,6 +116,41 @@ QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent) {
   return label;
 }
 
+QLabel* NewTitle(const QString& caption, QWidget* parent) {
+  auto* title = NewLabel("", caption, parent);
+  QFont font = title->font();
+  font.setPointSizeF(font.pointSizeF() * 1.4);
+  font.setBold(true);
+  title->setFont(font);
+  return title;
+}
+
+QLabel* NewHeading(const QString& name, const QString& caption, QWidget* parent) {
+  auto* heading = NewLabel(name, caption, parent);
+  ShowBold(heading, true);
+  return heading;
+}
+
+QLabel* NewHint(const QString& name, const QString& caption, QWidget* parent) {
+  auto* hint = NewLabel(name, caption, parent);
+  hint->setForegroundRole(QPalette::PlaceholderText);
+  return hint;
+}
+
+void ShowBold(QWidget* widget, bool bold) {
+  QFont font = widget->font();
+  if (font.bold() == bold) return;
+  font.setBold(bold);
+  widget->setFont(font);
+}
+
+void ShowTextColour(QWidget* widget, const QColor& colour) {
+  QPalette palette = widget->palette();
+  if (palette.color(widget->foregroundRole()) == colour) return;
+  palette.setColor(widget->foregroundRole(), colour);
+  widget->setPalette(palette);
+}
+
 QLabel* NewNumberLabel(const QString& name, QWidget* parent) {
   auto* label = NewLabel(name, "", parent);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -175,6 +210,14 @@ QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent
   return Named(new QGroupBox(caption, parent), name);
 }
 
+QWidget* NewLineFrame(const QString& name, const QString& caption, QWidget* parent) {
+  auto* frame = Named(new QWidget(parent), name);
+  auto* layout = new QHBoxLayout(frame);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(NewHeading("", caption, frame));
+  return frame;
+}
+
 QPushButton* NewIdleButton(const QString& name, const QString& caption, const QString& tip,
                            QWidget* parent) {
   auto* button = Named(new QPushButton(caption, parent), name);
@@ -183,10 +226,12 @@ QPushButton* NewIdleButton(const QString& name, const QString& caption, const QS
   return button;
 }
 
-QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent) {
+QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent,
+                         const QString& keys) {
   auto* group = new QButtonGroup(parent);
   for (int i = 0; i < count; ++i) {
     auto* option = Named(new QRadioButton(parent), ElementName(array, i));
+    option->setProperty("key", keys.mid(i, 1));
     group->addButton(option, i);
     layout->addWidget(option);
   }

@@ -29,6 +29,19 @@ int TextWidth(const QWidget* widget, int characters);
 
 QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent);
 
+/// The title of a panel.
+QLabel* NewTitle(const QString& caption, QWidget* parent);
+
+/// A label over a group of things, in bold.
+QLabel* NewHeading(const QString& name, const QString& caption, QWidget* parent);
+
+/// A label that steps back behind what it explains.
+QLabel* NewHint(const QString& name, const QString& caption, QWidget* parent);
+
+/// Sets what differs.
+void ShowBold(QWidget* widget, bool bold);
+void ShowTextColour(QWidget* widget, const QColor& colour);
+
 /// A label whose number stands on the right.
 QLabel* NewNumberLabel(const QString& name, QWidget* parent);
 
@@ -56,12 +69,16 @@ void OnDoubleClick(QListWidget* list, const std::function<void()>& act);
 
 QGroupBox* NewFrame(const QString& name, const QString& caption, QWidget* parent);
 
+/// A frame of one line, which begins with its caption.
+QWidget* NewLineFrame(const QString& name, const QString& caption, QWidget* parent);
+
 /// A button without an action of its own. `tip` says where the thing is done.
 QPushButton* NewIdleButton(const QString& name, const QString& caption, const QString& tip,
                            QWidget* parent);
 
 /// Option buttons `array`(0) to `array`(count − 1) in a layout, exclusive, with their indices as
-/// ids.
-QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent);
+/// ids. `keys` has the letter of each that chooses it together with Alt.
+QButtonGroup* NewOptions(const char* array, int count, QLayout* layout, QWidget* parent,
+                         const QString& keys = "");
 
 }  // namespace tarnwick
