@@ -35,8 +35,8 @@ QIcon StandardIcon() {
 CommandPanelWidget::CommandPanelWidget(Session& session)
     : PanelWidget(Panel::Command, "Command", session) {
   auto* frames = new QHBoxLayout;
-  frames->addWidget(NewLeaderFrame(), 3, Qt::AlignTop);
-  frames->addWidget(NewSpecialFrame(), 2, Qt::AlignTop);
+  frames->addWidget(NewLeaderFrame(), 3);
+  frames->addWidget(NewSpecialFrame(), 2);
   Body()->addLayout(frames);
   Body()->addStretch();
 }

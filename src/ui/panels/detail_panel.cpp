@@ -15,7 +15,7 @@ DetailPanelWidget::DetailPanelWidget(Session& session)
   Body()->addWidget(NewDescriptionFrame(), 1);
   auto* frames = new QHBoxLayout;
   for (QWidget* frame : {NewPeriodFrame(), NewTypeFrame(), NewRulesFrame()}) {
-    frames->addWidget(frame, 0, Qt::AlignTop);
+    frames->addWidget(frame);
   }
   frames->addStretch();
   Body()->addLayout(frames);
@@ -37,7 +37,7 @@ QWidget* DetailPanelWidget::NewDescriptionFrame() {
 
 QWidget* DetailPanelWidget::NewPeriodFrame() {
   auto* frame = NewFrame("HistoricTab", "Historical Period", this);
-  auto* layout = new QHBoxLayout(frame);
+  auto* layout = new QVBoxLayout(frame);
   bindings_.AddVisible(frame, header_.HistoricTab.Visible);
 
   using Validate = bool (*)(ArmyHeader&, Host&);
@@ -48,7 +48,9 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     auto* half = Named(new QFrame(frame), frameName);
     auto* row = new QHBoxLayout(half);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(NewLabel(labelName, caption, half));
+    auto* label = NewLabel(labelName, caption, half);
+    label->setMinimumWidth(TextWidth(label, 7));
+    row->addWidget(label);
     auto* year = bindings_.Add(NewQuantityBox(boxName, half), box);
     year->setFixedWidth(TextWidth(year, 8));
     row->addWidget(year);
@@ -60,7 +62,6 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
   };
   add("Frame9", "Label30", "From:", "FromData", header_.FromData, FromData_Validate, "FromACBC",
       header_.FromACBC, FromACBC_Click);
-  layout->addSpacing(16);
   add("Frame8", "Label29", "To:", "ToData", header_.ToData, ToData_Validate, "toACBC",
       header_.toACBC, toACBC_Click);
   return frame;

@@ -30,10 +30,7 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
   layout->addStretch();
   list_->setWordWrap(true);
   list_->setResizeMode(QListView::Adjust);
-  list_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  list_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   list_->setSpacing(3);
-  list_->setMinimumHeight(2 * fontMetrics().height());
   const auto choose = [this](const QListWidgetItem* item) { Open(list_->row(item)); };
   connect(list_, &QListWidget::itemClicked, this, choose);
   connect(list_, &QListWidget::itemActivated, this, choose);
@@ -83,6 +80,19 @@ void StepsFrame::Show(const ArmySummary& summary) {
     font.setBold(true);
     next->setFont(font);
   }
+  FitList();
+}
+
+void StepsFrame::FitList() {
+  list_->doItemsLayout();
+  const QListWidgetItem* last = list_->item(list_->count() - 1);
+  const int end = last != nullptr ? list_->visualItemRect(last).bottom() : fontMetrics().height();
+  list_->setFixedHeight(end + 2 * (list_->spacing() + list_->frameWidth()));
+}
+
+void StepsFrame::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FitList();
 }
 
 void StepsFrame::Open(int line) {

@@ -25,12 +25,17 @@ class StepsFrame : public QWidget {
   /// A button with a menu of the lines in place of the list.
   void Fold(bool folded);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   struct Steps {
     QString Heading;
     std::vector<std::pair<QString, Panel>> Lines;
   };
   static Steps StepsOf(const ArmySummary& summary);
+  /// Makes the list as high as its lines.
+  void FitList();
   void Open(int line);
 
   std::function<void(Panel)> open_;

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/terrain_panel.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int pieceSide = 64;
-constexpr int areaSide = 128;
+constexpr int smallestArea = 96, largestArea = 320;
 
 }  // namespace
 
@@ -33,10 +34,9 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
   bindings_.Add([this, warning] { ShowWarning(warning, TerrainWarning(army_)); });
   Body()->addWidget(warning);
   auto* row = new QHBoxLayout;
-  row->setSpacing(24);
-  row->addWidget(NewPalette(), 0, Qt::AlignTop);
-  row->addWidget(NewAreas(), 0, Qt::AlignTop);
+  row->setSpacing(16);
   auto* side = new QVBoxLayout;
+  side->addWidget(NewPalette());
   side->addWidget(NewPointsFrame());
   side->addWidget(
       NewIdleButton("Command2", "Update",
@@ -45,7 +45,7 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
                     this));
   side->addStretch();
   row->addLayout(side);
-  row->addStretch();
+  row->addWidget(NewAreas(), 1, Qt::AlignTop | Qt::AlignLeft);
   Body()->addLayout(row);
   Body()->addStretch();
 }
@@ -54,13 +54,27 @@ void TerrainPanelWidget::showEvent(QShowEvent* event) {
   // Reading the pictures would only hold up the start of the program.
   if (pictures_[0].isNull()) {
     InitPictures();
-    for (std::size_t kind = 0; kind < pictures_.size(); ++kind) {
-      const QIcon picture(QString(":/terrain/%1.svg").arg(kind));
-      pictures_.at(kind) = picture.pixmap(QSize(areaSide, areaSide), devicePixelRatio());
-    }
+    for (std::size_t kind = 0; kind < pictures_.size(); ++kind)
+      pictures_.at(kind) = QIcon(QString(":/terrain/%1.svg").arg(kind));
     Refresh();
   }
+  FitAreas();
   PanelWidget::showEvent(event);
+}
+
+void TerrainPanelWidget::resizeEvent(QResizeEvent* event) {
+  FitAreas();
+  PanelWidget::resizeEvent(event);
+}
+
+void TerrainPanelWidget::FitAreas() {
+  const QWidget* view = parentWidget();
+  const QPoint corner = areas_.front()->mapTo(this, QPoint());
+  const int margin = Body()->contentsMargins().right();
+  const int room = qMin(view->width() - corner.x(), view->height() - corner.y()) - margin;
+  const int side = std::clamp(room / 3, smallestArea, largestArea);
+  for (TerrainTile* area : areas_)
+    area->setFixedSize(side, side);
 }
 
 void TerrainPanelWidget::keyPressEvent(QKeyEvent* event) {
@@ -75,7 +89,8 @@ QWidget* TerrainPanelWidget::NewPalette() {
   auto* layout = new QGridLayout(palette);
   layout->setContentsMargins(0, 0, 0, 0);
   for (int kind = 0; kind < 6; ++kind) {
-    auto* piece = new TerrainTile(ElementName("TerrImg", kind), pieceSide, palette);
+    auto* piece = new TerrainTile(ElementName("TerrImg", kind), palette);
+    piece->setFixedSize(pieceSide, pieceSide);
     piece->MakePiece(kind);
     piece->setToolTip("Drag onto an area, or click here and then the area");
     pieces_.push_back(piece);
@@ -95,7 +110,8 @@ QWidget* TerrainPanelWidget::NewAreas() {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);  // one battlefield
   for (int i = 0; i < 9; ++i) {
-    auto* area = new TerrainTile(ElementName("Area", i), areaSide, areas);
+    auto* area = new TerrainTile(ElementName("Area", i), areas);
+    areas_.push_back(area);
     area->setToolTip(QString("Area %1").arg(i + 1));
     area->MakeArea([this, i](int piece) { PutDown(piece, i); });
     layout->addWidget(area, i / 3, i % 3);

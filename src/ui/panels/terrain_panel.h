@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include <QIcon>
+
 #include "ui/panels/panel_widget.h"
 
 namespace tarnwick {
@@ -20,6 +22,7 @@ class TerrainPanelWidget : public PanelWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -27,11 +30,13 @@ class TerrainPanelWidget : public PanelWidget {
   QWidget* NewAreas();
   QWidget* NewPointsFrame();
   void AddPicture(TerrainTile* tile, const PictureBox& control);
+  /// Makes the battlefield as large as there is room.
+  void FitAreas();
   void Pick(std::optional<int> piece);
   void PutDown(int piece, int area);
 
-  std::array<QPixmap, 6> pictures_;
-  std::vector<TerrainTile*> pieces_;
+  std::array<QIcon, 6> pictures_;
+  std::vector<TerrainTile*> pieces_, areas_;
   std::optional<int> picked_;
 };
 

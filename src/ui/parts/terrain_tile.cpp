@@ -20,10 +20,8 @@ constexpr const char* pieceFormat = "application/x-tarnwick-terrain";
 
 }  // namespace
 
-TerrainTile::TerrainTile(const QString& name, int side, QWidget* parent)
-    : QAbstractButton(parent), side_(side) {
+TerrainTile::TerrainTile(const QString& name, QWidget* parent) : QAbstractButton(parent) {
   setObjectName(name);
-  setFixedSize(side, side);
   setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -32,7 +30,7 @@ void TerrainTile::MakeArea(std::function<void(int)> drop) {
   setAcceptDrops(true);
 }
 
-void TerrainTile::ShowPicture(const QPixmap& picture) {
+void TerrainTile::ShowPicture(const QIcon& picture) {
   if (picture_.cacheKey() == picture.cacheKey()) return;
   picture_ = picture;
   update();
@@ -46,8 +44,7 @@ void TerrainTile::Mark(bool marked) {
 
 void TerrainTile::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawPixmap(rect(), picture_);
+  picture_.paint(&painter, rect());
   const int width = marked_ ? 4 : hasFocus() ? 2 : 1;
   const QColor border = marked_ || hasFocus() ? AccentColour() : QColor(0, 0, 0, 60);
   painter.setPen(QPen(border, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
@@ -83,8 +80,7 @@ void TerrainTile::Drag() {
   piece->setData(pieceFormat, QByteArray::number(*kind_));
   auto* drag = new QDrag(this);  // the drag machinery deletes it
   drag->setMimeData(piece);
-  drag->setPixmap(
-      picture_.scaled(size() * devicePixelRatio(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  drag->setPixmap(picture_.pixmap(size(), devicePixelRatio()));
   drag->setHotSpot(rect().center());
   drag->exec(Qt::CopyAction);
 }

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include <QAbstractButton>
-#include <QPixmap>
+#include <QIcon>
 
 namespace tarnwick {
 
@@ -14,18 +14,16 @@ namespace tarnwick {
 /// of the battlefield, which pieces can be dropped on. A click, Enter or Space activates it.
 class TerrainTile : public QAbstractButton {
  public:
-  TerrainTile(const QString& name, int side, QWidget* parent);
+  TerrainTile(const QString& name, QWidget* parent);
 
   /// Makes it a piece of the palette.
   void MakePiece(int kind) { kind_ = kind; }
   /// Makes it an area; `drop` takes the kind of the piece that was dropped.
   void MakeArea(std::function<void(int kind)> drop);
 
-  void ShowPicture(const QPixmap& picture);
+  void ShowPicture(const QIcon& picture);
   /// Marks a piece that was picked, or an area that a piece is held over.
   void Mark(bool marked);
-
-  QSize sizeHint() const override { return {side_, side_}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -39,10 +37,9 @@ class TerrainTile : public QAbstractButton {
  private:
   void Drag();
 
-  int side_;
   std::optional<int> kind_;
   std::function<void(int)> drop_;
-  QPixmap picture_;
+  QIcon picture_;
   QPoint pressedAt_;
   bool marked_ = false;
 };
