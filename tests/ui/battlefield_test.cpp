@@ -61,7 +61,8 @@ TEST_F(BattlefieldTest, TilesShowTheirTerrain) {
     Work.Field.Terrain.Area[8 - kind].Picture = kind;
     Form.Refresh();
     const QIcon picture(QString(SHIPPED_DATA "/../src/ui/pictures/%1.svg").arg(name));
-    const QImage drawn = picture.pixmap(QSize(128, 128)).toImage().copy(8, 8, 112, 112);
+    const QRect area = Find(ElementName("Area", 8 - kind)).rect();
+    const QImage drawn = picture.pixmap(area.size()).toImage().copy(area.adjusted(8, 8, -8, -8));
     EXPECT_EQ(Look(ElementName("Area", 8 - kind), 8), drawn.convertToFormat(QImage::Format_RGB32));
     EXPECT_NE(Look(ElementName("TerrImg", kind), 8), Look(ElementName("TerrImg", kind ? 0 : 1), 8));
     ++kind;

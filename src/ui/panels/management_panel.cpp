@@ -15,17 +15,16 @@ namespace tarnwick {
 
 ManagementPanelWidget::ManagementPanelWidget(Session& session)
     : PanelWidget(Panel::Management, "Army Managemet", session) {
-  Body()->addWidget(NewModuleFrame());
+  TitleLine()->addWidget(NewModuleFrame());
+  TitleLine()->addStretch();
   Body()->addWidget(NewNameFrame());
   Body()->addWidget(NewButtons());
   Body()->addStretch();
 }
 
 QWidget* ManagementPanelWidget::NewModuleFrame() {
-  auto* frame = NewFrame("Frame10", "Module", this);
-  auto* layout = new QHBoxLayout(frame);
-  auto* modules = NewOptions("modOption", 2, layout, frame);
-  layout->addStretch();
+  auto* frame = NewLineFrame("Frame10", "Module", this);
+  auto* modules = NewOptions("modOption", 2, frame->layout(), frame, "VB");
   bindings_.Add(modules, army_.Management.modOption);
   session_.Connect(modules, [this] { modOption_Click(work_, disk_); });
   return frame;
@@ -62,17 +61,21 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* row = new QWidget(this);
   auto* layout = new QGridLayout(row);
   layout->setContentsMargins(0, 8, 0, 0);
-  const auto add = [&](const char* name, const char* caption, int column) {
+  layout->setHorizontalSpacing(16);
+  const auto add = [&](const char* name, const char* caption, const char* does, const char* key) {
     auto* button = Named(new QPushButton(caption, row), name);
     button->setMinimumSize(TextWidth(button, 18), button->fontMetrics().height() * 2);
-    layout->addWidget(button, 0, column);
+    const int line = layout->rowCount();
+    layout->addWidget(button, line, 0);
+    layout->addWidget(NewLabel("", does, row), line, 1);
+    layout->addWidget(NewHint("", key, row), line, 2);
     return button;
   };
-  auto* newArmy = add("NewArmyBtn", "New army", 0);
-  auto* load = add("LoadBtn", "Load army", 1);
-  auto* save = add("SaveBtn", "Save Army", 2);
+  auto* newArmy = add("NewArmyBtn", "&New army", "Begin from a base army", "Ctrl+N");
+  auto* load = add("LoadBtn", "L&oad army", "Open a saved army", "Ctrl+O");
+  auto* save = add("SaveBtn", "Sav&e Army", "Write the army to its file", "Ctrl+S");
   auto* warning = NewWarning("BaseArmyWarning", row);
-  layout->addWidget(warning, 1, 2, 1, 2);  // as wide as the panel allows
+  layout->addWidget(warning, layout->rowCount(), 0, 1, 4);
   layout->setColumnStretch(3, 1);
   bindings_.Add([this, warning] { ShowWarning(warning, BaseArmyWarning(army_)); });
   session_.Connect(newArmy, [this] { NewArmyBtn_Click(work_, disk_, user_); });

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QFocusEvent>
@@ -11,7 +12,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
-#include <QStackedLayout>
+#include <QScrollArea>
 #include <QWindow>
 
 namespace tarnwick {
@@ -38,10 +39,9 @@ bool InDialog(const QWidget& widget) {
   return qobject_cast<const QDialog*>(widget.window()) != nullptr;
 }
 
-/// The page of a stack that the box stands on, else its window.
-QWidget* PageOf(QWidget* box) {
-  while (!box->isWindow() &&
-         qobject_cast<QStackedLayout*>(box->parentWidget()->layout()) == nullptr)
+/// The panel that scrolls with the box on it, else the box's window.
+QWidget* PanelOf(QWidget* box) {
+  while (!box->isWindow() && !qobject_cast<QScrollArea*>(box->parentWidget()->parentWidget()))
     box = box->parentWidget();
   return box;
 }
@@ -86,7 +86,7 @@ bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       return RefusesClick(object, event);
     case QEvent::Shortcut:
-      return RefusesShortcut();
+      return RefusesShortcut() || PressesAtOnce(object, event);
     case QEvent::KeyPress:
       if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) return TakesEscape(object);
       return checks_.contains(object) && RefusesKey(static_cast<QWidget*>(object), event);
@@ -115,6 +115,14 @@ bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
 bool EntryGuard::RefusesShortcut() {
   QWidget* box = BoxInFocus(QApplication::activeWindow());
   return box != nullptr && Refuses(box);
+}
+
+/// A button would wait before its letter presses it, and what is typed next would come first.
+bool EntryGuard::PressesAtOnce(QObject* object, QEvent* event) {
+  auto* button = qobject_cast<QAbstractButton*>(object);
+  if (button == nullptr || static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
+  button->click();
+  return true;
 }
 
 bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
@@ -172,7 +180,7 @@ bool EntryGuard::TakesEscape(QObject* object) {
   if (InDialog(*box)) return false;
   if (line != nullptr && (line != entry_.Box || PutsBack(line))) return true;
   passed_ = box;
-  PageOf(box)->setFocus();
+  PanelOf(box)->setFocus();
   return true;
 }
 

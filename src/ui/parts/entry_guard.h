@@ -48,6 +48,7 @@ class EntryGuard : public QObject {
   bool Refuses(QWidget* box);
   bool RefusesClick(QObject* object, QEvent* event);
   bool RefusesShortcut();
+  static bool PressesAtOnce(QObject* object, QEvent* event);
   bool RefusesKey(QWidget* box, QEvent* event);
   void CheckLostFocus(QWidget* box, QEvent* event);
   void CheckGainedFocus(QObject* object, QEvent* event);

@@ -16,6 +16,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "catalog/profile_files.h"
+#include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
 
 namespace tarnwick {
@@ -160,9 +161,7 @@ QLabel* NewNumberLabel(const QString& name, QWidget* parent) {
 QLabel* NewWarning(const QString& name, QWidget* parent) {
   auto* warning = NewLabel(name, "", parent);
   warning->setWordWrap(true);
-  QPalette palette = warning->palette();
-  palette.setColor(QPalette::WindowText, QColor(0x9A, 0x34, 0x12));
-  warning->setPalette(palette);
+  ShowTextColour(warning, WarningColour());
   warning->hide();
   return warning;
 }
