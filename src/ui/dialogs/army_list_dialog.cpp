@@ -6,13 +6,14 @@
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
+#include "ui/parts/entry_list.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 
 ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
     : Dialog("ArmyListForm", "Army List", session, parent) {
-  auto* list = Named(new QListWidget(this), "ArmyList");
+  auto* list = new EntryList("ArmyList", this);
   list->setUniformItemSizes(true);
   list->setMinimumSize(TextWidth(list, 36), 360);
   auto* frame = NewFrame("", "Army Detail ", this);

@@ -5,13 +5,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/parts/entry_list.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 
 ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
     : Dialog("ArmySelectionForm", "Army Selection", session, parent) {
-  auto* list = Named(new QListWidget(this), "ArmyList");
+  auto* list = new EntryList("ArmyList", this);
   list->setMinimumSize(320, 360);
   auto* confirm = Named(new QPushButton("Select Army", this), "Command1");
   confirm->setDefault(true);

@@ -8,6 +8,7 @@
 
 #include "armyfile/warnings.h"
 #include "battlefield/setups.h"
+#include "ui/parts/entry_list.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
 
@@ -29,7 +30,7 @@ QWidget* SetupPanelWidget::NewSetupList() {
   auto* side = new QWidget(this);
   auto* layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto* list = Named(new QListWidget(side), "setupList");
+  auto* list = new EntryList("setupList", side);
   auto* create = Named(new QPushButton("New Setup", side), "Command6");
   auto* remove = Named(new QPushButton("Delete Setup", side), "Command3");
   layout->addWidget(list, 1);
@@ -56,7 +57,7 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
-  auto* units = bindings_.Add(Named(new QListWidget(frame), "unitList"), field_.Setup.unitList);
+  auto* units = bindings_.Add(new EntryList("unitList", frame), field_.Setup.unitList);
   units->setMinimumWidth(TextWidth(units, 28));
   layout->addWidget(units, 0, 1, 3, 1);
   layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0);

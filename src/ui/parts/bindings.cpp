@@ -123,10 +123,15 @@ void Bindings::Tie(QListWidget* widget, ListBox& control) {
                    [widget, &control] { control.ListIndex = SelectedRow(*widget); });
   Add([widget, &control] {
     const QSignalBlocker quiet(widget);
+    const int cursor = widget->currentRow();
     ShowEntries(widget, control);
-    if (SelectedRow(*widget) == control.ListIndex) return;
-    widget->setCurrentRow(control.ListIndex);
-    if (!control.HasSelection()) widget->clearSelection();
+    if (control.HasSelection()) {
+      if (SelectedRow(*widget) != control.ListIndex) widget->setCurrentRow(control.ListIndex);
+      return;
+    }
+    widget->clearSelection();
+    const int row = qMin(cursor, widget->count() - 1);  // a player goes on from where they were
+    if (widget->currentRow() != row) widget->setCurrentRow(row, QItemSelectionModel::NoUpdate);
   });
 }
 

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include <QListWidget>
+
+namespace tarnwick {
+
+/// A list that can be without a selection. The first arrow key then selects the entry that has the
+/// cursor, which a list that has just got the focus does not have, or the first one.
+class EntryList : public QListWidget {
+ public:
+  EntryList(const QString& name, QWidget* parent);
+
+  /// The row that the next arrow key selects when none is selected; −1 in a list without any.
+  int NextRow() const;
+  /// `act` gets every key first and says whether it has done with it.
+  void OnKey(std::function<bool(const QKeyEvent& key)> act) { act_ = std::move(act); }
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  std::function<bool(const QKeyEvent&)> act_;
+};
+
+}  // namespace tarnwick
