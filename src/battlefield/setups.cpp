@@ -148,6 +148,13 @@ void Command3_Click(ArmyState& state) {
   ShowPanel(state, Panel::MonsterLaboratory);
 }
 
+int FirstFreePlace(const SetupPanel& panel) {
+  for (int i = 0; i < places; ++i) {
+    if (panel.unit[i].Caption.empty()) return i;
+  }
+  return -1;
+}
+
 void assignBtn_Click(Battlefield& field, const ArmyState& state, Disk& disk, Host& host,
                      Int16 place) {
   ListBox& list = field.Setup.unitList;

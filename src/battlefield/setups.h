@@ -46,6 +46,9 @@ void Command6_Click(Battlefield& field, const ArmyState& state, Disk& disk);
 /// "Delete Setup": deletes nothing but shows the monster laboratory.
 void Command3_Click(ArmyState& state);
 
+/// The first place that no unit holds, −1 when there is none.
+int FirstFreePlace(const SetupPanel& panel);
+
 /// "<->" of place `place`: deploys the selected unit there, exchanging it for the one that holds
 /// the place, or without a selection withdraws that one.
 void assignBtn_Click(Battlefield& field, const ArmyState& state, Disk& disk, Host& host,

@@ -33,4 +33,40 @@ TEST_F(ListsTest, KeysWalkAList) {
   EXPECT_EQ(Row("unitList"), 2) << "the player goes on there";
 }
 
+TEST_F(ListsTest, UnitsAreDeployedByOneKeyEach) {
+  const auto places = [this] {
+    QStringList held;
+    for (const Label& place : Work.Field.Setup.unit)
+      held.append(place.Caption.empty() ? "-" : ToQt(place.Caption));
+    return held;
+  };
+  LoadTrebia();
+  Click("ShowSetup", "Command6");
+  const QStringList u = Entries("unitList");
+  PressIn("unitList", Qt::Key_Down);
+  Press(Qt::Key_Down);
+  Press(Qt::Key_5);
+  EXPECT_EQ(Row("unitList"), -1);
+  EXPECT_EQ(Form.focusWidget()->objectName(), "unitList");
+  Press(Qt::Key_1);
+  Press(Qt::Key_Return);  // to the second place
+  EXPECT_EQ(places(), (QStringList{u[2], u[3], "-", "-", u[1], "-", "-", "-", "-"}));
+  Press(Qt::Key_Home);
+  Press(Qt::Key_5);  // for the one that holds it
+  EXPECT_EQ(Entries("unitList").last(), u[1]);
+  ClickEntry("unitList", u[1], true);
+  EXPECT_EQ(places(), (QStringList{u[2], u[3], u[1], "-", u[0], "-", "-", "-", "-"}));
+  EXPECT_EQ(Row("unitList"), -1) << "nothing is selected under the hand";
+  for (int i = 0; i < 9; ++i)
+    Press(Qt::Key_Enter);
+  const QStringList all = places();
+  EXPECT_FALSE(all.contains("-"));
+  ClickEntry("unitList", 0, true);
+  EXPECT_EQ(places(), all) << "none is free";
+  Work.Field.Setup.unitList.Clear();
+  Form.Refresh();
+  Press(Qt::Key_1);
+  EXPECT_EQ(places(), all) << "an empty list withdraws none";
+}
+
 }  // namespace tarnwick

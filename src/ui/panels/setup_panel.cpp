@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
@@ -57,9 +58,7 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
-  auto* units = bindings_.Add(new EntryList("unitList", frame), field_.Setup.unitList);
-  units->setMinimumWidth(TextWidth(units, 28));
-  layout->addWidget(units, 0, 1, 3, 1);
+  layout->addLayout(NewUnitList(frame), 0, 1, 3, 1);
   layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0);
   auto* length = NewWarning("descriptionWarning", frame);
   length->setAlignment(Qt::AlignRight);
@@ -74,6 +73,23 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
       [this, length] { ShowWarning(length, LengthWarning(field_.Setup.description.Text, 2)); });
   session_.Connect(description, [this] { description_Change(field_, army_, disk_); });
   return frame;
+}
+
+QLayout* SetupPanelWidget::NewUnitList(QWidget* parent) {
+  auto* hint = NewLabel("", "1 to 9, or Enter", parent);
+  hint->setForegroundRole(QPalette::PlaceholderText);
+  units_ = bindings_.Add(new EntryList("unitList", parent), field_.Setup.unitList);
+  units_->setMinimumWidth(TextWidth(units_, 28));
+  units_->OnKey([this](const QKeyEvent& key) { return DeployByKey(key); });
+  connect(units_, &QListWidget::itemDoubleClicked, this,
+          [this] { Deploy(FirstFreePlace(field_.Setup)); });
+  auto* heading = new QHBoxLayout;
+  heading->addWidget(NewLabel("", "Units to deploy", parent), 1);
+  heading->addWidget(hint);
+  auto* layout = new QVBoxLayout;
+  layout->addLayout(heading);
+  layout->addWidget(units_, 1);
+  return layout;
 }
 
 QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlace, int lastPlace,
@@ -93,13 +109,40 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
     unit->setAutoFillBackground(true);
     unit->setBackgroundRole(QPalette::Base);
     unit->setMinimumWidth(TextWidth(unit, 26));
-    layout->addWidget(assign, place - firstPlace, 1);
-    layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), place - firstPlace, 2);
+    auto* number = NewLabel("", QString::number(place + 1), zone);
+    number->setForegroundRole(QPalette::PlaceholderText);
+    const int row = place - firstPlace;
+    layout->addWidget(number, row, 1);
+    layout->addWidget(assign, row, 2);
+    layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 3);
     session_.Connect(assign,
                      [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   }
-  layout->setColumnStretch(2, 1);
+  layout->setColumnStretch(3, 1);
   return zone;
+}
+
+bool SetupPanelWidget::DeployByKey(const QKeyEvent& key) {
+  constexpr auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (key.modifiers() & others) return false;
+  if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+    Deploy(FirstFreePlace(field_.Setup));
+  } else if (key.key() >= Qt::Key_1 && key.key() <= Qt::Key_9) {
+    Deploy(key.key() - Qt::Key_1);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void SetupPanelWidget::Deploy(int place) {
+  const int row = units_->NextRow();
+  if (row < 0 || place < 0) return;
+  session_.Run([this, row, place] {
+    field_.Setup.unitList.ListIndex = row;
+    assignBtn_Click(field_, army_, disk_, user_, place);
+  });
+  units_->setFocus();
 }
 
 }  // namespace tarnwick

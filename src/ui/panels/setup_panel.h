@@ -4,7 +4,12 @@
 
 #include "ui/panels/panel_widget.h"
 
+class QKeyEvent;
+class QLayout;
+
 namespace tarnwick {
+
+class EntryList;
 
 /// Panel 6: the army's setups, and the deployment of the one that is chosen.
 class SetupPanelWidget : public PanelWidget {
@@ -14,7 +19,13 @@ class SetupPanelWidget : public PanelWidget {
  private:
   QWidget* NewSetupList();
   QWidget* NewSetupFrame();
+  QLayout* NewUnitList(QWidget* parent);
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
+  bool DeployByKey(const QKeyEvent& key);
+  /// Deploys the unit that is selected, or next, to a place; −1 is none.
+  void Deploy(int place);
+
+  EntryList* units_ = nullptr;
 };
 
 }  // namespace tarnwick
