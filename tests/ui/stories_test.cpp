@@ -73,11 +73,21 @@ TEST_F(WindowTest, ALeaderIsChosenAmongTheArmysAndThePlayersOwn) {
   EXPECT_EQ(Texts("LeaderName(5)", "LeaderFrame"),
             (QStringList{"Ben & Bo 40 [ 4 / 1 ] ", " Leaders (pts left: 210)"}));
   Work.Army.CommandPts = 100;
-  Press(Qt::Key_Up);  // 60 dearer
+  Press(Qt::Key_Up);  // past those that the army has not
+  EXPECT_EQ(Form.focusWidget()->objectName(), "LeaderName(2)");
   Press(Qt::Key_Up);
+  EXPECT_TRUE(Ticked("LeaderName(5)")) << "moving does not buy";
+  Press(Qt::Key_Space);  // 60 dearer
   EXPECT_EQ(Text("LeaderFrame"), " Leaders (pts left: 40)");
-  Press(Qt::Key_Up);  // 50 dearer
+  Press(Qt::Key_Left);
+  Press(Qt::Key_Return);  // 50 dearer
   EXPECT_EQ(TakeMessages(), QStringList{"Insufficient points left"});
+  for (const auto modifiers : {Qt::NoModifier, Qt::ShiftModifier}) {
+    Press(Qt::Key_Tab, modifiers);
+    EXPECT_FALSE(Form.focusWidget()->objectName().startsWith("LeaderName"));
+    Press(Qt::Key_Tab, modifiers ^ Qt::ShiftModifier);
+    EXPECT_EQ(Form.focusWidget()->objectName(), "LeaderName(1)");
+  }
   EXPECT_TRUE(Ticked("LeaderName(1)"));
 }
 

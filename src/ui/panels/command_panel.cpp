@@ -10,6 +10,7 @@
 #include "rules/leaders.h"
 #include "rules/special_cards.h"
 #include "ui/parts/application_style.h"
+#include "ui/parts/priced_options.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
 
@@ -57,6 +58,7 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
       bindings_.Add(NewOptions("LeaderName", 7, layout, frame), army_.Command.LeaderName);
   for (QAbstractButton* leader : leaders->buttons())
     leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  new PricedOptions(leaders);
   auto* define = Named(new QPushButton(StandardIcon(), "Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
   layout->addSpacing(8);
