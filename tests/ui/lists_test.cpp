@@ -33,6 +33,48 @@ TEST_F(ListsTest, KeysWalkAList) {
   EXPECT_EQ(Row("unitList"), 2) << "the player goes on there";
 }
 
+TEST_F(ListsTest, ASearchNarrowsTheArmies) {
+  const auto left = [this] {
+    QStringList rows;
+    const auto& list = Find<QListWidget>("ArmyList");
+    for (int row = 0; row < list.count(); ++row)
+      if (!list.isRowHidden(row)) rows.append(list.item(row)->text());
+    return rows;
+  };
+  OnDialog([this, left] {
+    const auto focus = [] { return QApplication::focusWidget()->objectName(); };
+    Press(Qt::Key_End);
+    Press(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(focus(), "ArmySearch");
+    Type("OF g");
+    EXPECT_EQ(left(), (QStringList{"Tribes of Gaul"}));
+    EXPECT_TRUE(Picture("ArmySelectionForm").contains("\"1 of 30\""));
+    EXPECT_EQ(Row("ArmyList"), -1) << "it is gone";
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TakeMessages(), QStringList{"Please select one army"});
+    Type("?");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(focus(), "ArmySearch") << "there is nothing to go to";
+    Enter("ArmySearch", "k");
+    const QStringList armies = left();
+    Press(Qt::Key_Down);
+    EXPECT_EQ(focus(), "ArmyList");
+    const auto chosen = [this] { return Find<QListWidget>("ArmyList").currentItem()->text(); };
+    EXPECT_EQ(chosen(), armies[0]);
+    for (const auto& [key, army] : {std::pair(Qt::Key_End, armies.last()),
+                                    {Qt::Key_Home, armies[0]},
+                                    {Qt::Key_S, QString("Seleukid Kingdom")}}) {
+      Press(key);
+      EXPECT_EQ(chosen(), army) << key;
+    }
+    Enter("ArmySearch", "gaul");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+  });
+  Click("NewArmyBtn");
+  EXPECT_EQ(Text("ArmyName"), "Tribes of Gaul");
+}
+
 TEST_F(ListsTest, UnitsAreDeployedByOneKeyEach) {
   const auto places = [this] {
     QStringList held;

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
+#include "ui/dialogs/army_picker.h"
 #include "ui/parts/entry_list.h"
 #include "ui/parts/widgets.h"
 
@@ -13,8 +14,8 @@ namespace tarnwick {
 
 ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
     : Dialog("ArmyListForm", "Army List", session, parent) {
-  auto* list = new EntryList("ArmyList", this);
-  list->setUniformItemSizes(true);
+  auto* picker = new ArmyPicker(form_.ArmyList, bindings_, this);
+  EntryList* list = picker->List();
   list->setMinimumSize(TextWidth(list, 36), 360);
   auto* frame = NewFrame("", "Army Detail ", this);
   auto* detail = NewLabel("ArmyDetailLabel", "", frame);
@@ -22,13 +23,13 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   detail->setWordWrap(true);
   detail->setMinimumWidth(TextWidth(detail, 40));
   (new QVBoxLayout(frame))->addWidget(detail);
-  auto* select = Named(new QPushButton("Select Army", this), "Command1");
   auto* remove = Named(new QPushButton("Delete Army", this), "DelArmy");
+  auto* select = Named(new QPushButton("Select Army", this), "Command1");
   select->setDefault(true);
   remove->setAutoDefault(false);
 
   auto* lists = new QHBoxLayout;
-  lists->addWidget(list, 1);
+  lists->addWidget(picker, 1);
   lists->addWidget(frame, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(remove);
@@ -41,7 +42,6 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   layout->addLayout(buttons);
 
   FillArmyList(session_.Work.Army, session_.Store, form_);
-  bindings_.Add(list, form_.ArmyList);
   bindings_.Add(detail, form_.ArmyDetailLabel);
   bindings_.Add([this, warning] {
     ShowWarning(warning, DeleteWarning(session_.Work.Army, session_.Store, form_));

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/dialogs/army_picker.h"
 #include "ui/parts/entry_list.h"
 #include "ui/parts/widgets.h"
 
@@ -12,16 +13,16 @@ namespace tarnwick {
 
 ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
     : Dialog("ArmySelectionForm", "Army Selection", session, parent) {
-  auto* list = new EntryList("ArmyList", this);
+  auto* picker = new ArmyPicker(form_.ArmyList, bindings_, this);
+  EntryList* list = picker->List();
   list->setMinimumSize(320, 360);
   auto* confirm = Named(new QPushButton("Select Army", this), "Command1");
   confirm->setDefault(true);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(list);
+  layout->addWidget(picker);
   layout->addWidget(confirm, 0, Qt::AlignRight);
 
   FillArmySelection(session_.Work.Army, session_.Store, form_);
-  bindings_.Add(list, form_.ArmyList);
   bindings_.Refresh();
   const auto choose = [this] {
     if (ConfirmArmySelection(session_.Work.Army, session_.User, form_)) accept();

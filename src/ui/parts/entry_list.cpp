@@ -10,13 +10,30 @@ EntryList::EntryList(const QString& name, QWidget* parent) : QListWidget(parent)
   setObjectName(name);
 }
 
+void EntryList::ShowRow(int row, bool shown) {
+  if (isRowHidden(row) != shown) return;
+  setRowHidden(row, !shown);
+  QListWidgetItem* entry = item(row);
+  entry->setFlags(entry->flags().setFlag(Qt::ItemIsEnabled, shown));  // letters pass it by
+}
+
 int EntryList::NextRow() const {
-  int row = currentRow();
-  if (row >= 0 && !isRowHidden(row)) return row;
-  for (row = 0; row < count(); ++row) {
-    if (!isRowHidden(row)) return row;
-  }
-  return -1;
+  const int row = currentRow();
+  return row >= 0 && !isRowHidden(row) ? row : ShownRow(0, 1);
+}
+
+int EntryList::ShownRow(int from, int step) const {
+  int row = from;
+  while (row >= 0 && row < count() && isRowHidden(row))
+    row += step;
+  return row < count() ? row : -1;
+}
+
+QModelIndex EntryList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  // The toolkit goes to the very first and last row, hidden or not.
+  if (action == MoveHome) return model()->index(ShownRow(0, 1), 0);
+  if (action == MoveEnd) return model()->index(ShownRow(count() - 1, -1), 0);
+  return QListWidget::moveCursor(action, modifiers);
 }
 
 void EntryList::focusInEvent(QFocusEvent* event) {

@@ -15,6 +15,8 @@ class EntryList : public QListWidget {
  public:
   EntryList(const QString& name, QWidget* parent);
 
+  /// Shows or hides a row; the keys pass a hidden one by.
+  void ShowRow(int row, bool shown);
   /// The row that the next arrow key selects when none is selected; −1 in a list without any.
   int NextRow() const;
   /// `act` gets every key first and says whether it has done with it.
@@ -23,8 +25,11 @@ class EntryList : public QListWidget {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
  private:
+  int ShownRow(int from, int step) const;
+
   std::function<bool(const QKeyEvent&)> act_;
 };
 
