@@ -111,4 +111,32 @@ TEST_F(ListsTest, UnitsAreDeployedByOneKeyEach) {
   EXPECT_EQ(places(), all) << "an empty list withdraws none";
 }
 
+TEST_F(ListsTest, EscapeLeavesEveryDialogFromEveryControl) {
+  NewArmy(0);
+  const std::tuple<const char*, const char*, QStringList> dialogs[] = {
+      {"ShowSaveFrame", "NewArmyBtn", {"ArmySearch", "ArmyList", "Command1"}},
+      {"ShowSaveFrame", "LoadBtn", {"ArmySearch", "ArmyList", "DelArmy", "Command1"}},
+      {"ShowUnitsBtn", "specLabel(0)", {"Command1"}},
+      {"ShowCommandBtn", "LeaderBtn", {"LeaderName", "InitiativeBox", "CommandBox", "Command1"}}};
+  for (const auto& [panel, button, controls] : dialogs) {
+    for (qsizetype tabs = 0; tabs < controls.size(); ++tabs) {
+      OnDialog([&, this] {
+        const auto focus = [] { return QApplication::focusWidget()->objectName(); };
+        Find(controls[0]).setFocus();
+        for (const QString& control : controls.first(tabs + 1)) {
+          EXPECT_EQ(focus(), control);
+          if (control != controls[tabs]) Press(Qt::Key_Tab);
+        }
+        if (focus() == "CommandBox") {
+          Choose("InitiativeBox", 0);
+          Choose("CommandBox", 1);
+        }
+        Press(Qt::Key_Escape);
+      });
+      Click(panel, button);
+      EXPECT_EQ(TakeMessages(), QStringList()) << button << controls[tabs].toStdString();
+    }
+  }
+}
+
 }  // namespace tarnwick

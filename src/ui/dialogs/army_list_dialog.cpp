@@ -3,6 +3,7 @@
 #include "ui/dialogs/army_list_dialog.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
@@ -56,6 +57,10 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   OnDoubleClick(list, [this, showDetail, choose] {
     session_.Run(showDetail);
     session_.Run(choose);
+  });
+  list->OnKey([remove](const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Delete) remove->click();
+    return key.key() == Qt::Key_Delete;
   });
   session_.Connect(select, choose);
   session_.Connect(
