@@ -15,14 +15,15 @@ PricedOptions::PricedOptions(QButtonGroup* group) : QObject(group), group_(group
 bool PricedOptions::eventFilter(QObject* object, QEvent* event) {
   auto* option = static_cast<QAbstractButton*>(object);
   if (event->type() == QEvent::KeyPress) return TakesKey(option, *static_cast<QKeyEvent*>(event));
-  if (event->type() == QEvent::FocusIn) {
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    const bool byTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-    if (byTab && option != Entrance()) {
-      Entrance()->setFocus(Qt::OtherFocusReason);
-      return true;
-    }
-  } else if (event->type() == QEvent::FocusOut) {
+  const bool in = event->type() == QEvent::FocusIn;
+  if (!in && event->type() != QEvent::FocusOut) return false;
+  const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+  const bool byTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+  if (in && byTab && option != Entrance()) {
+    Entrance()->setFocus(Qt::OtherFocusReason);
+    return true;
+  }
+  if (!in && reason != Qt::ActiveWindowFocusReason) {
     // The toolkit lets Tab in where the focus was last; that option may be hidden by then.
     for (QAbstractButton* each : group_->buttons())
       each->setFocusPolicy(Qt::StrongFocus);
