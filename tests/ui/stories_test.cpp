@@ -103,9 +103,16 @@ TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
   const QImage first = picture.pixmap().toImage();
   EXPECT_FALSE(first.isNull());
   EXPECT_EQ(picture.windowTitle(), "hi_punic_citizen");
+  picture.resize(832, 600);
+  Settle();
+  EXPECT_EQ(picture.pixmap().height(), 600 - 32) << "read again, not blown up";
+  picture.resize(0, 0);
+  Settle();
+  EXPECT_EQ(picture.pixmap().toImage(), first);
   Form.activateWindow();
+  Settle();
   Click("ViewBtn(8)");
-  EXPECT_TRUE(picture.isActiveWindow());
+  EXPECT_TRUE(Form.isActiveWindow()) << "the player types on";
   EXPECT_NE(picture.pixmap().toImage(), first);
   const auto path = Folder / "pictures/hi_punic_citizen.svg";
   const QString file = QString::fromStdString(path.string());
@@ -115,6 +122,11 @@ TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
   std::filesystem::remove(path);
   Click("ViewBtn(0)");
   EXPECT_EQ(TakeMessages(), QStringList{"File " + file + " not found"});
+  picture.activateWindow();
+  Settle();
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(picture.isVisible());
+  Click("ViewBtn(8)");
   EXPECT_EQ(Exec([this] { Form.close(); }), 0) << "the picture keeps the program";
   Form.show();
 }

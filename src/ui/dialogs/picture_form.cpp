@@ -3,11 +3,13 @@
 #include "ui/dialogs/picture_form.h"
 
 #include <QImageReader>
+#include <QKeyEvent>
 
 namespace tarnwick {
 namespace {
 
-constexpr QSize pictureSize(384, 384);
+constexpr QSize smallestPicture(384, 384);
+constexpr QSize margins(32, 32);
 
 }  // namespace
 
@@ -17,26 +19,45 @@ PictureForm::PictureForm() {
   setWordWrap(true);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
-  setFixedSize(pictureSize + QSize(32, 32));
+  setMinimumSize(smallestPicture + margins);
   setAttribute(Qt::WA_QuitOnClose, false);
+  setAttribute(Qt::WA_ShowWithoutActivating);
 }
 
 void PictureForm::ShowPicture(const std::filesystem::path& file) {
-  const QString path = QString::fromStdU16String(file.u16string());
-  QImageReader reader(path);
-  const QSize size = reader.size().scaled(pictureSize, Qt::KeepAspectRatio);
+  path_ = QString::fromStdU16String(file.u16string());
+  clear();
+  Load();
+  setWindowTitle(QString::fromStdU16String(file.stem().u16string()));
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+}
+
+void PictureForm::Load() {
+  QImageReader reader(path_);
+  const QSize size = reader.size().scaled(this->size() - margins, Qt::KeepAspectRatio);
   reader.setScaledSize(size * devicePixelRatio());
   QPixmap picture = QPixmap::fromImageReader(&reader);
   picture.setDevicePixelRatio(devicePixelRatio());
-  if (picture.isNull()) {
-    setText(path + "\n" + reader.errorString());
-  } else {
+  if (!picture.isNull()) {
     setPixmap(picture);
+  } else if (pixmap().isNull()) {  // else the file is gone since, and what it was stays
+    setText(path_ + "\n" + reader.errorString());
   }
-  setWindowTitle(QString::fromStdU16String(file.stem().u16string()));
-  show();
-  raise();
-  activateWindow();
+}
+
+void PictureForm::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  Load();
+}
+
+void PictureForm::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
 }
 
 }  // namespace tarnwick
