@@ -28,12 +28,16 @@ namespace tarnwick {
 namespace {
 
 /// What a platform with dragging would do with a piece that is pressed.
-void CarryOver(QWidget& source, QWidget& target, const WindowDriver::Script& onTheWay) {
-  const QPoint away = source.rect().center() + QPoint(QApplication::startDragDistance(), 0);
-  QMouseEvent move(QEvent::MouseMove, away, source.mapToGlobal(away), Qt::NoButton, Qt::LeftButton,
-                   Qt::NoModifier);
-  QApplication::sendEvent(&source, &move);
+void CarryOver(QWidget& source, QPoint grip, QWidget& target,
+               const WindowDriver::Script& onTheWay) {
+  const QPoint away = grip + QPoint(QApplication::startDragDistance() + 1, 0);
+  for (int i = 0; i < 2; ++i) {  // a list sees that it is one at the second move
+    QMouseEvent move(QEvent::MouseMove, away, source.mapToGlobal(away), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&source, &move);
+  }
   const auto* drag = source.findChild<QDrag*>();
+  if (drag == nullptr) drag = source.parent()->findChild<QDrag*>("", Qt::FindDirectChildrenOnly);
   if (drag == nullptr || !target.acceptDrops()) return;
   const QPoint middle = target.rect().center();
   QDragEnterEvent enter(middle, Qt::CopyAction, drag->mimeData(), Qt::LeftButton, Qt::NoModifier);
@@ -205,13 +209,23 @@ bool WindowDriver::CanDrag() {
 
 void WindowDriver::Drag(const QString& from, const QString& to, const Script& onTheWay) {
   QWidget& source = Find(from);
-  QWidget& target = Find(to);
+  DragFrom(source, source.rect().center(), Find(to), onTheWay);
+}
+
+void WindowDriver::DragEntry(const QString& name, int row, const QString& to,
+                             const Script& onTheWay) {
+  auto& list = Find<QListWidget>(name);
+  const QPoint grip = list.visualItemRect(list.item(row)).center();
+  DragFrom(*list.viewport(), grip, Find(to), onTheWay);
+}
+
+void WindowDriver::DragFrom(QWidget& source, QPoint grip, QWidget& target, const Script& onTheWay) {
   QWindow* window = source.window()->windowHandle();
-  const QPoint start = source.mapTo(source.window(), source.rect().center());
+  const QPoint start = source.mapTo(source.window(), grip);
   const QPoint end = target.mapTo(target.window(), target.rect().center());
   QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
   if (!CanDrag()) {
-    CarryOver(source, target, onTheWay);
+    CarryOver(source, grip, target, onTheWay);
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
     return;
   }

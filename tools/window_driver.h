@@ -70,6 +70,9 @@ class WindowDriver {
   /// while the piece is held over its target. Where the platform can't, the driver carries it over.
   void Drag(
       const QString& from, const QString& to, const Script& onTheWay = [] {});
+  /// Drags an entry of a list in the same way.
+  void DragEntry(
+      const QString& list, int row, const QString& to, const Script& onTheWay = [] {});
   /// Presses and releases a key, in whatever has the focus.
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   /// The same in a control, which gets the focus.
@@ -107,6 +110,7 @@ class WindowDriver {
     return *widget;
   }
   static void ClickOn(QWidget& widget);
+  static void DragFrom(QWidget& source, QPoint grip, QWidget& target, const Script& onTheWay);
   QWidget* FindWidget(const QString& name, bool seen) const;
   QWindow* FrontWindow() const;
   [[noreturn]] static void Fail(const QString& reason);

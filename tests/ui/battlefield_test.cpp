@@ -108,6 +108,24 @@ TEST_F(BattlefieldTest, UnitsAreDeployedInASetup) {
   EXPECT_EQ(Texts("M_Size", "M_TQ", "M_Type"), (QStringList{"5", "4", "SM"}));
 }
 
+TEST_F(BattlefieldTest, UnitsAreDraggedToTheirPlaces) {
+  LoadTrebia();
+  Click("ShowSetup", "Command6");
+  const QStringList units = Entries("unitList");
+  const QImage before = Look("unit(3)");
+  QImage held;
+  DragEntry("unitList", 2, "unit(3)", [&] { held = Look("unit(3)"); });
+  EXPECT_NE(held, before);
+  EXPECT_EQ(Text("unit(3)"), units[2]);
+  DragEntry("unitList", 0, "assignBtn(3)");
+  EXPECT_EQ(Text("unit(3)"), units[0]);
+  EXPECT_EQ(Entries("unitList").last(), units[2]);
+  EXPECT_EQ(Form.focusWidget()->objectName(), "unitList");
+  DragEntry("unitList", 0, "description");
+  EXPECT_EQ(Text("description"), "New setup");
+  EXPECT_EQ(Entries("unitList").first(), units[1]);
+}
+
 TEST_F(BattlefieldTest, TheBrowserRefusesANewerFileAndLoadsByADoubleClick) {
   Folder.Write("Newer.army", "[EDITOR]\r\nversion=1.3\r\n[ARMY]\r\nbase=Carthage in Italy\r\n");
   OnDialog([this] {

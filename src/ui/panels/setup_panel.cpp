@@ -80,9 +80,10 @@ QLayout* SetupPanelWidget::NewUnitList(QWidget* parent) {
   hint->setForegroundRole(QPalette::PlaceholderText);
   units_ = bindings_.Add(new EntryList("unitList", parent), field_.Setup.unitList);
   units_->setMinimumWidth(TextWidth(units_, 28));
+  units_->setDragEnabled(true);
   units_->OnKey([this](const QKeyEvent& key) { return DeployByKey(key); });
   connect(units_, &QListWidget::itemDoubleClicked, this,
-          [this] { Deploy(FirstFreePlace(field_.Setup)); });
+          [this] { Deploy(units_->NextRow(), FirstFreePlace(field_.Setup)); });
   auto* heading = new QHBoxLayout;
   heading->addWidget(NewLabel("", "Units to deploy", parent), 1);
   heading->addWidget(hint);
@@ -115,6 +116,13 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
     layout->addWidget(number, row, 1);
     layout->addWidget(assign, row, 2);
     layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 3);
+    for (QWidget* target : {static_cast<QWidget*>(assign), static_cast<QWidget*>(unit)}) {
+      new DropPlace(
+          target, [this, place](int entry) { Deploy(entry, place); },
+          [unit](bool held) {
+            unit->setBackgroundRole(held ? QPalette::Midlight : QPalette::Base);
+          });
+    }
     session_.Connect(assign,
                      [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   }
@@ -126,18 +134,17 @@ bool SetupPanelWidget::DeployByKey(const QKeyEvent& key) {
   constexpr auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   if (key.modifiers() & others) return false;
   if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
-    Deploy(FirstFreePlace(field_.Setup));
+    Deploy(units_->NextRow(), FirstFreePlace(field_.Setup));
   } else if (key.key() >= Qt::Key_1 && key.key() <= Qt::Key_9) {
-    Deploy(key.key() - Qt::Key_1);
+    Deploy(units_->NextRow(), key.key() - Qt::Key_1);
   } else {
     return false;
   }
   return true;
 }
 
-void SetupPanelWidget::Deploy(int place) {
-  const int row = units_->NextRow();
-  if (row < 0 || place < 0) return;
+void SetupPanelWidget::Deploy(int row, int place) {
+  if (row < 0 || row >= units_->count() || place < 0) return;
   session_.Run([this, row, place] {
     field_.Setup.unitList.ListIndex = row;
     assignBtn_Click(field_, army_, disk_, user_, place);

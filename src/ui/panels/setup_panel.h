@@ -22,8 +22,8 @@ class SetupPanelWidget : public PanelWidget {
   QLayout* NewUnitList(QWidget* parent);
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
   bool DeployByKey(const QKeyEvent& key);
-  /// Deploys the unit that is selected, or next, to a place; −1 is none.
-  void Deploy(int place);
+  /// Deploys the unit of a row to a place; −1 is none.
+  void Deploy(int row, int place);
 
   EntryList* units_ = nullptr;
 };

@@ -2,9 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "ui/parts/entry_list.h"
 
+#include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 
 namespace tarnwick {
+namespace {
+
+constexpr const char* entryFormat = "application/x-tarnwick-entry";
+
+}  // namespace
 
 EntryList::EntryList(const QString& name, QWidget* parent) : QListWidget(parent) {
   setObjectName(name);
@@ -51,6 +58,37 @@ void EntryList::keyPressEvent(QKeyEvent* event) {
   } else {
     QListWidget::keyPressEvent(event);
   }
+}
+
+QStringList EntryList::mimeTypes() const {
+  return {entryFormat};
+}
+
+QMimeData* EntryList::mimeData(const QList<QListWidgetItem*>& entries) const {
+  auto* entry = new QMimeData;  // the drag machinery deletes it
+  entry->setData(entryFormat, QByteArray::number(row(entries.front())));
+  return entry;
+}
+
+DropPlace::DropPlace(QWidget* place, std::function<void(int)> drop, std::function<void(bool)> mark)
+    : QObject(place), drop_(std::move(drop)), mark_(std::move(mark)) {
+  place->setAcceptDrops(true);
+  place->installEventFilter(this);
+}
+
+bool DropPlace::eventFilter(QObject* /*place*/, QEvent* event) {
+  const auto type = event->type();
+  if (type == QEvent::DragEnter || type == QEvent::Drop) {
+    auto* held = static_cast<QDropEvent*>(event);
+    if (!held->mimeData()->hasFormat(entryFormat)) return false;
+    held->setDropAction(Qt::CopyAction);  // the state takes the entry from the list
+    held->accept();
+    mark_(type == QEvent::DragEnter);
+    if (type == QEvent::Drop) drop_(held->mimeData()->data(entryFormat).toInt());
+    return true;
+  }
+  if (type == QEvent::DragLeave) mark_(false);
+  return false;
 }
 
 }  // namespace tarnwick
