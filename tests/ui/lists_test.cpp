@@ -24,30 +24,15 @@ TEST_F(ListsTest, KeysWalkAList) {
     Click("ShowSaveFrame", "NewArmyBtn");
     EXPECT_EQ(Text("ArmyName"), "Kingdom of Pontos");
   }
-  LoadTrebia();
-  Click("ShowSetup", "Command6");
-  ClickEntry("unitList", 2);
-  Click("assignBtn(0)");
-  EXPECT_EQ(Row("unitList"), -1);
-  PressIn("unitList", Qt::Key_Down);
-  EXPECT_EQ(Row("unitList"), 2) << "the player goes on there";
 }
 
 TEST_F(ListsTest, ASearchNarrowsTheArmies) {
-  const auto left = [this] {
-    QStringList rows;
-    const auto& list = Find<QListWidget>("ArmyList");
-    for (int row = 0; row < list.count(); ++row)
-      if (!list.isRowHidden(row)) rows.append(list.item(row)->text());
-    return rows;
-  };
-  OnDialog([this, left] {
+  OnDialog([this] {
     const auto focus = [] { return QApplication::focusWidget()->objectName(); };
     Press(Qt::Key_End);
     Press(Qt::Key_Tab, Qt::ShiftModifier);
     EXPECT_EQ(focus(), "ArmySearch");
     Type("OF g");
-    EXPECT_EQ(left(), (QStringList{"Tribes of Gaul"}));
     EXPECT_TRUE(Picture("ArmySelectionForm").contains("\"1 of 30\""));
     EXPECT_EQ(Row("ArmyList"), -1) << "it is gone";
     Press(Qt::Key_Return);
@@ -55,17 +40,14 @@ TEST_F(ListsTest, ASearchNarrowsTheArmies) {
     Type("?");
     Press(Qt::Key_Down);
     EXPECT_EQ(focus(), "ArmySearch") << "there is nothing to go to";
-    Enter("ArmySearch", "k");
-    const QStringList armies = left();
-    Press(Qt::Key_Down);
-    EXPECT_EQ(focus(), "ArmyList");
-    const auto chosen = [this] { return Find<QListWidget>("ArmyList").currentItem()->text(); };
-    EXPECT_EQ(chosen(), armies[0]);
-    for (const auto& [key, army] : {std::pair(Qt::Key_End, armies.last()),
-                                    {Qt::Key_Home, armies[0]},
-                                    {Qt::Key_S, QString("Seleukid Kingdom")}}) {
+    Enter("ArmySearch", "king");
+    for (const auto& [key, army] : {std::pair(Qt::Key_Down, "Kingdom of Pontos"),
+                                    {Qt::Key_End, "Parthian Kingdom"},
+                                    {Qt::Key_Home, "Kingdom of Pontos"},
+                                    {Qt::Key_S, "Seleukid Kingdom"}}) {
       Press(key);
-      EXPECT_EQ(chosen(), army) << key;
+      EXPECT_EQ(Find<QListWidget>("ArmyList").currentItem()->text(), army);
+      EXPECT_EQ(focus(), "ArmyList");
     }
     Enter("ArmySearch", "gaul");
     Press(Qt::Key_Down);
@@ -90,6 +72,8 @@ TEST_F(ListsTest, UnitsAreDeployedByOneKeyEach) {
   Press(Qt::Key_5);
   EXPECT_EQ(Row("unitList"), -1);
   EXPECT_EQ(Form.focusWidget()->objectName(), "unitList");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Row("unitList"), 1) << "the player goes on there";
   Press(Qt::Key_1);
   Press(Qt::Key_Return);  // to the second place
   EXPECT_EQ(places(), (QStringList{u[2], u[3], "-", "-", u[1], "-", "-", "-", "-"}));
@@ -123,10 +107,9 @@ TEST_F(ListsTest, EscapeLeavesEveryDialogFromEveryControl) {
       OnDialog([&, this] {
         const auto focus = [] { return QApplication::focusWidget()->objectName(); };
         Find(controls[0]).setFocus();
-        for (const QString& control : controls.first(tabs + 1)) {
-          EXPECT_EQ(focus(), control);
-          if (control != controls[tabs]) Press(Qt::Key_Tab);
-        }
+        for (qsizetype i = 0; i < tabs; ++i)
+          Press(Qt::Key_Tab);
+        EXPECT_EQ(focus(), controls[tabs]);
         if (focus() == "CommandBox") {
           Choose("InitiativeBox", 0);
           Choose("CommandBox", 1);

@@ -102,32 +102,33 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
   auto* name = NewLabel(ElementName("Label1", index), caption, zone);
   name->setMinimumWidth(TextWidth(name, 9));
   layout->addWidget(name, 0, 0);
-  for (int place = firstPlace; place <= lastPlace; ++place) {
-    auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
-    assign->setFixedWidth(TextWidth(assign, 6));
-    auto* unit = NewLabel(ElementName("unit", place), "", zone);
-    unit->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    unit->setAutoFillBackground(true);
-    unit->setBackgroundRole(QPalette::Base);
-    unit->setMinimumWidth(TextWidth(unit, 26));
-    auto* number = NewLabel("", QString::number(place + 1), zone);
-    number->setForegroundRole(QPalette::PlaceholderText);
-    const int row = place - firstPlace;
-    layout->addWidget(number, row, 1);
-    layout->addWidget(assign, row, 2);
-    layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 3);
-    for (QWidget* target : {static_cast<QWidget*>(assign), static_cast<QWidget*>(unit)}) {
-      new DropPlace(
-          target, [this, place](int entry) { Deploy(entry, place); },
-          [unit](bool held) {
-            unit->setBackgroundRole(held ? QPalette::Midlight : QPalette::Base);
-          });
-    }
-    session_.Connect(assign,
-                     [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
-  }
+  for (int place = firstPlace; place <= lastPlace; ++place)
+    AddPlace(place, layout, place - firstPlace, zone);
   layout->setColumnStretch(3, 1);
   return zone;
+}
+
+void SetupPanelWidget::AddPlace(int place, QGridLayout* layout, int row, QWidget* zone) {
+  auto* number = NewLabel("", QString::number(place + 1), zone);
+  number->setForegroundRole(QPalette::PlaceholderText);
+  auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
+  assign->setFixedWidth(TextWidth(assign, 6));
+  auto* unit = NewLabel(ElementName("unit", place), "", zone);
+  unit->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  unit->setAutoFillBackground(true);
+  unit->setBackgroundRole(QPalette::Base);
+  unit->setMinimumWidth(TextWidth(unit, 26));
+  layout->addWidget(number, row, 1);
+  layout->addWidget(assign, row, 2);
+  layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 3);
+
+  session_.Connect(assign, [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
+  const auto deploy = [this, place](int entry) { Deploy(entry, place); };
+  const auto mark = [unit](bool held) {
+    unit->setBackgroundRole(held ? QPalette::Midlight : QPalette::Base);
+  };
+  new DropPlace(assign, deploy, mark);
+  new DropPlace(unit, deploy, mark);
 }
 
 bool SetupPanelWidget::DeployByKey(const QKeyEvent& key) {

@@ -4,6 +4,7 @@
 
 #include "ui/panels/panel_widget.h"
 
+class QGridLayout;
 class QKeyEvent;
 class QLayout;
 
@@ -21,6 +22,7 @@ class SetupPanelWidget : public PanelWidget {
   QWidget* NewSetupFrame();
   QLayout* NewUnitList(QWidget* parent);
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
+  void AddPlace(int place, QGridLayout* layout, int row, QWidget* zone);
   bool DeployByKey(const QKeyEvent& key);
   /// Deploys the unit of a row to a place; −1 is none.
   void Deploy(int row, int place);
