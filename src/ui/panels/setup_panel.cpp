@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/setup_panel.h"
 
+#include <map>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -11,9 +13,15 @@
 #include "battlefield/setups.h"
 #include "ui/parts/entry_list.h"
 #include "ui/parts/qt_text.h"
+#include "ui/parts/unit_pictures.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
+namespace {
+
+constexpr QSize thumbnailSize(24, 24);
+
+}  // namespace
 
 SetupPanelWidget::SetupPanelWidget(Session& session) : PanelWidget(Panel::Setup, "Setup", session) {
   auto* warning = NewWarning("SetupWarning", this);
@@ -37,7 +45,7 @@ QWidget* SetupPanelWidget::NewSetupList() {
   layout->addWidget(list, 1);
   layout->addWidget(create);
   layout->addWidget(remove);
-  side->setFixedWidth(TextWidth(side, 20));
+  side->setFixedWidth(TextWidth(side, 15));
 
   bindings_.Add(list, field_.Setup.setupList);
   const auto choose = [this] { setupList_Click(field_, army_, disk_); };
@@ -76,16 +84,16 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
 }
 
 QLayout* SetupPanelWidget::NewUnitList(QWidget* parent) {
-  auto* hint = NewLabel("", "1 to 9, or Enter", parent);
-  hint->setForegroundRole(QPalette::PlaceholderText);
+  auto* hint = NewHint("", "1 to 9, or Enter", parent);
   units_ = bindings_.Add(new EntryList("unitList", parent), field_.Setup.unitList);
   units_->setMinimumWidth(TextWidth(units_, 28));
+  units_->setIconSize(thumbnailSize);
   units_->setDragEnabled(true);
   units_->OnKey([this](const QKeyEvent& key) { return DeployByKey(key); });
   connect(units_, &QListWidget::itemDoubleClicked, this,
           [this] { Deploy(units_->NextRow(), FirstFreePlace(field_.Setup)); });
   auto* heading = new QHBoxLayout;
-  heading->addWidget(NewLabel("", "Units to deploy", parent), 1);
+  heading->addWidget(NewHeading("", "Units to deploy", parent), 1);
   heading->addWidget(hint);
   auto* layout = new QVBoxLayout;
   layout->addLayout(heading);
@@ -100,27 +108,31 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
   auto* layout = new QGridLayout(zone);
   layout->setVerticalSpacing(2);
   auto* name = NewLabel(ElementName("Label1", index), caption, zone);
-  name->setMinimumWidth(TextWidth(name, 9));
+  name->setMinimumWidth(TextWidth(name, 7));
   layout->addWidget(name, 0, 0);
   for (int place = firstPlace; place <= lastPlace; ++place)
     AddPlace(place, layout, place - firstPlace, zone);
-  layout->setColumnStretch(3, 1);
+  layout->setColumnStretch(4, 1);
   return zone;
 }
 
 void SetupPanelWidget::AddPlace(int place, QGridLayout* layout, int row, QWidget* zone) {
-  auto* number = NewLabel("", QString::number(place + 1), zone);
-  number->setForegroundRole(QPalette::PlaceholderText);
+  auto* number = NewHint("", QString::number(place + 1), zone);
   auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
   assign->setFixedWidth(TextWidth(assign, 6));
+  assign->setToolTip("Deploys the selected unit here, or takes the unit off this place");
+  auto* thumbnail = new Thumbnail(zone);
+  thumbnail->setFixedSize(thumbnailSize);
+  thumbnails_.push_back(thumbnail);
   auto* unit = NewLabel(ElementName("unit", place), "", zone);
   unit->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   unit->setAutoFillBackground(true);
   unit->setBackgroundRole(QPalette::Base);
-  unit->setMinimumWidth(TextWidth(unit, 26));
+  unit->setMinimumWidth(TextWidth(unit, 20));
   layout->addWidget(number, row, 1);
   layout->addWidget(assign, row, 2);
-  layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 3);
+  layout->addWidget(thumbnail, row, 3);
+  layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 4);
 
   session_.Connect(assign, [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   const auto deploy = [this, place](int entry) { Deploy(entry, place); };
@@ -129,6 +141,32 @@ void SetupPanelWidget::AddPlace(int place, QGridLayout* layout, int row, QWidget
   };
   new DropPlace(assign, deploy, mark);
   new DropPlace(unit, deploy, mark);
+}
+
+void SetupPanelWidget::Refresh() {
+  PanelWidget::Refresh();
+  if (isVisible()) ShowThumbnails();
+}
+
+void SetupPanelWidget::showEvent(QShowEvent* event) {
+  ShowThumbnails();
+  PanelWidget::showEvent(event);
+}
+
+void SetupPanelWidget::ShowThumbnails() {
+  // By the units' texts; of two rows alike, the first.
+  std::map<std::string, Int16> images;
+  for (Int16 r = 1; r <= army_.TotUnits; ++r)
+    images.emplace(IdentityText(army_.BaseUnits[r]), army_.BaseUnits[r].ChosenImageIdx);
+  const auto imageOf = [&](const std::string& unit) {
+    const auto found = images.find(unit);
+    return found != images.end() ? found->second : Int16(0);
+  };
+  const auto& entries = field_.Setup.unitList.Entries;
+  for (int i = 0; i < units_->count(); ++i)
+    ShowPicture(units_->item(i), army_, disk_, imageOf(entries[static_cast<std::size_t>(i)].Text));
+  for (int place = 0; auto* thumbnail : thumbnails_)
+    thumbnail->Show(army_, disk_, imageOf(field_.Setup.unit[place++].Caption));
 }
 
 bool SetupPanelWidget::DeployByKey(const QKeyEvent& key) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "ui/panels/panel_widget.h"
 
 class QGridLayout;
@@ -11,11 +13,17 @@ class QLayout;
 namespace tarnwick {
 
 class EntryList;
+class Thumbnail;
 
 /// Panel 6: the army's setups, and the deployment of the one that is chosen.
 class SetupPanelWidget : public PanelWidget {
  public:
   explicit SetupPanelWidget(Session& session);
+
+  void Refresh() override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* NewSetupList();
@@ -24,10 +32,13 @@ class SetupPanelWidget : public PanelWidget {
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
   void AddPlace(int place, QGridLayout* layout, int row, QWidget* zone);
   bool DeployByKey(const QKeyEvent& key);
+  /// Shows the pictures of the units.
+  void ShowThumbnails();
   /// Deploys the unit of a row to a place; −1 is none.
   void Deploy(int row, int place);
 
   EntryList* units_ = nullptr;
+  std::vector<Thumbnail*> thumbnails_;  ///< by place
 };
 
 }  // namespace tarnwick

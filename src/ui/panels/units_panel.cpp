@@ -188,7 +188,7 @@ void UnitsPanelWidget::AddPictures(int line) {
   bindings_.Add([this, pictures, thumbnail, &list = units.ImageName[line]] {
     ShowPictures(pictures, list, army_, disk_);
     thumbnail->setVisible(list.Visible);
-    thumbnail->Show(pictures->itemIcon(pictures->currentIndex()));
+    thumbnail->Show(army_, disk_, list.HasSelection() ? list.Selected().ItemData : Int16(0));
   });
 
   auto* show = Named(new QPushButton("View", grid), ElementName("ViewBtn", line));

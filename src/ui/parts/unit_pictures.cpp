@@ -3,33 +3,55 @@
 #include "ui/parts/unit_pictures.h"
 
 #include <QComboBox>
+#include <QListWidgetItem>
 #include <QPainter>
 
 #include "ui/parts/application_style.h"
 #include "ui/parts/qt_text.h"
 
 namespace tarnwick {
+namespace {
+
+bool HasPicture(const ArmyState& army, Int16 image) {
+  return image >= 1 && image <= army.Catalog.TotImages;
+}
+
+/// Tells pictures apart.
+QString KeyOf(const ArmyState& army, Int16 image) {
+  if (!HasPicture(army, image)) return "";
+  return ToQt(army.Catalog.Images[image].Id) + (army.BrakkaMode ? "/" : "");
+}
 
 QIcon UnitPicture(const ArmyState& army, const Disk& disk, Int16 image) {
-  if (image < 1 || image > army.Catalog.TotImages) return {};
+  if (!HasPicture(army, image)) return {};
   const auto file = PictureFile(disk, army.BrakkaMode, army.Catalog.Images[image].Id);
   return QIcon(QString::fromStdU16String(file.u16string()));
 }
 
+}  // namespace
+
 void ShowPictures(QComboBox* widget, const ListBox& list, const ArmyState& army, const Disk& disk) {
   for (int i = 0; i < widget->count(); ++i) {
-    const Int16 row = list.Entries.at(static_cast<std::size_t>(i)).ItemData;
-    // The widget remembers which picture it has: looking for the file takes its time.
-    const QString shown = ToQt(army.Catalog.Images[row].Id) + (army.BrakkaMode ? "/" : "");
-    if (widget->itemData(i).toString() == shown) continue;
-    widget->setItemData(i, shown);
-    widget->setItemIcon(i, UnitPicture(army, disk, row));
+    const Int16 image = list.Entries.at(static_cast<std::size_t>(i)).ItemData;
+    const QString key = KeyOf(army, image);
+    if (widget->itemData(i).toString() == key) continue;
+    widget->setItemData(i, key);
+    widget->setItemIcon(i, UnitPicture(army, disk, image));
   }
 }
 
-void Thumbnail::Show(const QIcon& picture) {
-  if (picture_.cacheKey() == picture.cacheKey()) return;
-  picture_ = picture;
+void ShowPicture(QListWidgetItem* entry, const ArmyState& army, const Disk& disk, Int16 image) {
+  const QString key = KeyOf(army, image);
+  if (entry->data(Qt::UserRole).toString() == key) return;
+  entry->setData(Qt::UserRole, key);
+  entry->setIcon(UnitPicture(army, disk, image));
+}
+
+void Thumbnail::Show(const ArmyState& army, const Disk& disk, Int16 image) {
+  const QString key = KeyOf(army, image);
+  if (key_ == key) return;
+  key_ = key;
+  picture_ = UnitPicture(army, disk, image);
   update();
 }
 

@@ -13,26 +13,31 @@
 #include "rules/army_state.h"
 
 class QComboBox;
+class QListWidgetItem;
 
 namespace tarnwick {
 
-/// The picture of a row of the image catalog; it is read when it is painted. 0 is none.
-QIcon UnitPicture(const ArmyState& army, const Disk& disk, Int16 image);
+// Pictures of units, by their rows in the image catalog; 0 is none. They are read when they are
+// painted. Whoever shows one remembers which: looking for its file takes its time.
 
 /// Gives the entries of a list of pictures, whose data are their rows, these pictures.
 void ShowPictures(QComboBox* widget, const ListBox& list, const ArmyState& army, const Disk& disk);
+
+/// Gives an entry of a list a picture.
+void ShowPicture(QListWidgetItem* entry, const ArmyState& army, const Disk& disk, Int16 image);
 
 /// A small picture, as large as its place allows.
 class Thumbnail : public QWidget {
  public:
   using QWidget::QWidget;
 
-  void Show(const QIcon& picture);
+  void Show(const ArmyState& army, const Disk& disk, Int16 image);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString key_;
   QIcon picture_;
 };
 
