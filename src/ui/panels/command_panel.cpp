@@ -51,20 +51,19 @@ void CommandPanelWidget::Refresh() {
 QWidget* CommandPanelWidget::NewLeaderFrame() {
   auto* frame = NewFrame("LeaderFrame", "", this);
   auto* layout = new QVBoxLayout(frame);
-  auto* heading = NewLabel("Label4", "Name: $$  initiative/command", frame);
-  heading->setForegroundRole(QPalette::PlaceholderText);
-  layout->addWidget(heading);
+  layout->addWidget(NewHint("Label4", "Name: $$  initiative/command", frame));
   auto* leaders =
       bindings_.Add(NewOptions("LeaderName", 7, layout, frame), army_.Command.LeaderName);
   for (QAbstractButton* leader : leaders->buttons())
     leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   new PricedOptions(leaders);
-  auto* define = Named(new QPushButton(StandardIcon(), "Add a new Leader", frame), "LeaderBtn");
+  auto* define = Named(new QPushButton(StandardIcon(), "&Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
   layout->addSpacing(8);
   layout->addWidget(define, 0, Qt::AlignLeft);
   auto* warning = NewWarning("LeaderWarning", frame);
   layout->addWidget(warning);
+  layout->addStretch();
 
   bindings_.Add([frame, &caption = army_.Command.LeaderFrame.Caption] {
     if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
@@ -78,11 +77,13 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
 
 QWidget* CommandPanelWidget::NewSpecialFrame() {
   cards_ = NewFrame("SpecialFrame", "Special cards ", this);
-  cardRows_ = new QGridLayout(cards_);
+  auto* layout = new QVBoxLayout(cards_);
+  cardRows_ = new QGridLayout;
+  layout->addLayout(cardRows_);
+  layout->addStretch();
   const char* const captions[] = {"Card", "$$", "Max", "Buy"};
   for (int column = 0; column < 4; ++column) {
-    auto* heading = NewLabel(QString("Label%1").arg(5 + column), captions[column], cards_);
-    heading->setForegroundRole(QPalette::PlaceholderText);
+    auto* heading = NewHint(QString("Label%1").arg(5 + column), captions[column], cards_);
     if (column > 0) heading->setAlignment(Qt::AlignRight);
     cardRows_->addWidget(heading, 0, column);
   }

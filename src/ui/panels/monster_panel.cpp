@@ -6,23 +6,30 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "battlefield/setups.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
 
 MonsterPanelWidget::MonsterPanelWidget(Session& session)
     : PanelWidget(Panel::MonsterLaboratory, "Monster Laboratory", session) {
-  auto* lists = new QFormLayout;
+  auto* back = Named(new QPushButton("&Back to Setup", this), "BackToSetup");
+  TitleLine()->addWidget(back);
+  TitleLine()->addStretch();
+  session_.Connect(back, [this] { ShowSetup_Click(field_, army_); });
+
+  auto* frame = NewFrame("", "Monster", this);
+  auto* lists = new QFormLayout(frame);
   lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   const auto addList = [&](const char* name, const char* caption, ListBox& control) {
-    auto* list = Named(new QComboBox(this), name);
+    auto* list = Named(new QComboBox(frame), name);
     list->setMinimumContentsLength(6);
     lists->addRow(caption, bindings_.Add(list, control));
   };
   addList("M_Size", "Size", army_.Monster.M_Size);
   addList("M_TQ", "TQ", army_.Monster.M_TQ);
   addList("M_Type", "Type", army_.Monster.M_Type);
-  Body()->addLayout(lists);
+  Body()->addWidget(frame);
 
   auto* buttons = new QHBoxLayout;
   const QString tip = "Armies are saved and loaded on the panel Load/Save";

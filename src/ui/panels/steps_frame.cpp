@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "ui/parts/application_style.h"
+#include "ui/parts/entry_list.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
 
@@ -19,7 +20,7 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
     : QWidget(parent),
       open_(std::move(open)),
       heading_(NewHeading("", "", this)),
-      list_(Named(new QListWidget(this), "StillMissing")),
+      list_(new EntryList("StillMissing", this)),
       button_(Named(new QPushButton(this), "StillMissingMenu")) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -15,11 +15,6 @@
 #include "ui/parts/terrain_tile.h"
 #include "ui/parts/widgets.h"
 
-/// Makes the library's pictures known. The macro must stand outside of all namespaces.
-static void InitPictures() {
-  Q_INIT_RESOURCE(pictures);
-}
-
 namespace tarnwick {
 namespace {
 
@@ -53,7 +48,6 @@ TerrainPanelWidget::TerrainPanelWidget(Session& session)
 void TerrainPanelWidget::showEvent(QShowEvent* event) {
   // Reading the pictures would only hold up the start of the program.
   if (pictures_[0].isNull()) {
-    InitPictures();
     for (std::size_t kind = 0; kind < pictures_.size(); ++kind)
       pictures_.at(kind) = QIcon(QString(":/terrain/%1.svg").arg(kind));
     Refresh();

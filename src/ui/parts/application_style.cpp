@@ -3,9 +3,15 @@
 #include "ui/parts/application_style.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 
 #include "ui/parts/editor_style.h"
+
+/// Makes the library's pictures known. The macro must stand outside of all namespaces.
+static void InitPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
 
 namespace tarnwick {
 
@@ -53,6 +59,8 @@ void ApplyStyle() {
   palette.setColor(QPalette::ToolTipBase, Qt::white);
   palette.setColor(QPalette::PlaceholderText, HeadingColour(false));
   QApplication::setPalette(palette);
+  InitPictures();
+  QApplication::setWindowIcon(QIcon(":/tarnwick.png"));
 }
 
 }  // namespace tarnwick

@@ -6,7 +6,7 @@
 
 namespace tarnwick {
 
-/// Gives the application its own light palette, whatever the desktop's theme.
+/// Gives the application its own style, light palette and icon, whatever the desktop's theme.
 void ApplyStyle();
 
 // The window's colours beyond the palette.

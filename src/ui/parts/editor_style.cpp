@@ -103,6 +103,19 @@ int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+void EditorStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element != CE_RadioButtonLabel || button == nullptr) {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    return;
+  }
+  // Of a long leader's name the price behind it stays.
+  QStyleOptionButton cut = *button;
+  cut.text = cut.fontMetrics.elidedText(cut.text, Qt::ElideMiddle, cut.rect.width());
+  QProxyStyle::drawControl(element, &cut, painter, widget);
+}
+
 void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   switch (element) {
