@@ -9,7 +9,7 @@
 #include "armyfile/warnings.h"
 #include "rules/leaders.h"
 #include "rules/special_cards.h"
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/priced_options.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"

@@ -5,7 +5,7 @@
 #include <QGridLayout>
 
 #include "base/numbers.h"
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/gauges.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
@@ -71,7 +71,7 @@ void LimitsFrame::Fold(bool folded) {
 
 void LimitsFrame::Show(const ArmySummary& summary) {
   bindings_.Refresh();
-  ShowTextColour(title_, HeadingColour(summary.Begun));
+  ShowTextColour(title_, summary.Begun ? TextColour() : HintColour());
   for (std::size_t j = 0; j < lines_.size(); ++j) {
     const Line& line = lines_[j];
     const LimitSummary* limit = j < summary.Limits.size() ? &summary.Limits[j] : nullptr;

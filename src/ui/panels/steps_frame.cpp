@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/entry_list.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"

@@ -7,7 +7,7 @@
 
 #include "ui/panels/limits_frame.h"
 #include "ui/panels/steps_frame.h"
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/gauges.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
@@ -145,7 +145,7 @@ void SummaryPanel::Refresh() {
   const bool leaderless = begun && summary.Leader.empty();
   ShowTextColour(leader_, leaderless ? WarningColour() : TextColour());
   for (QLabel* heading : headings_)
-    ShowTextColour(heading, HeadingColour(begun));
+    ShowTextColour(heading, begun ? TextColour() : HintColour());
   cards_->setText(TextOr("none", summary.Cards));
   deck_->setText(TextOr("none", summary.Deck));
   limits_->Show(summary);

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QPalette>
 
+#include "ui/parts/colours.h"
 #include "ui/parts/editor_style.h"
 
 /// Makes the library's pictures known. The macro must stand outside of all namespaces.
@@ -14,34 +15,6 @@ static void InitPictures() {
 }
 
 namespace tarnwick {
-
-QColor TextColour() {
-  return {0x1B, 0x21, 0x24};
-}
-
-QColor HeadingColour(bool filled) {
-  return filled ? TextColour() : QColor(0x56, 0x60, 0x67);
-}
-
-QColor AccentColour() {
-  return {0x0B, 0x6B, 0x68};
-}
-
-QColor WarningColour() {
-  return {0x9A, 0x34, 0x12};
-}
-
-QColor MountedColour() {
-  return {0x55, 0x55, 0xFF};
-}
-
-QColor BorderColour() {
-  return {0x78, 0x83, 0x89};
-}
-
-QColor FrameColour() {
-  return {0xC3, 0xCB, 0xCF};
-}
 
 void ApplyStyle() {
   QApplication::setStyle(new EditorStyle);
@@ -57,7 +30,7 @@ void ApplyStyle() {
   palette.setColor(QPalette::Highlight, AccentColour());
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, Qt::white);
-  palette.setColor(QPalette::PlaceholderText, HeadingColour(false));
+  palette.setColor(QPalette::PlaceholderText, HintColour());
   QApplication::setPalette(palette);
   InitPictures();
   QApplication::setWindowIcon(QIcon(":/tarnwick.png"));

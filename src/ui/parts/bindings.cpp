@@ -4,7 +4,7 @@
 
 #include <QSignalBlocker>
 
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
 

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 
 namespace tarnwick {
 

@@ -11,7 +11,7 @@
 #include <QMimeData>
 #include <QPainter>
 
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 
 namespace tarnwick {
 namespace {

@@ -6,7 +6,7 @@
 #include <QListWidgetItem>
 #include <QPainter>
 
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/qt_text.h"
 
 namespace tarnwick {

@@ -16,7 +16,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "catalog/profile_files.h"
-#include "ui/parts/application_style.h"
+#include "ui/parts/colours.h"
 #include "ui/parts/qt_text.h"
 
 namespace tarnwick {
