@@ -39,7 +39,7 @@ CommandPanelWidget::CommandPanelWidget(Session& session)
   frames->addWidget(NewLeaderFrame(), 3);
   frames->addWidget(NewSpecialFrame(), 2);
   Body()->addLayout(frames);
-  Body()->addStretch();
+  Body()->addStretch(1);  // the frames are equally high, and no higher than they must
 }
 
 void CommandPanelWidget::Refresh() {

@@ -103,6 +103,15 @@ int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+QSize EditorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const {
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  // Captions and rows that breathe.
+  if (type == CT_PushButton) return size + QSize(16, 2);
+  if (type == CT_ItemViewItem) return size + QSize(0, 4);
+  return size;
+}
+
 void EditorStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
