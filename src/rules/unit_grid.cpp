@@ -106,6 +106,16 @@ void ShowUnitImages(ArmyState& state, Int16 line, Int16 row) {
   state.SetupLoading = false;
 }
 
+Int16 PictureOf(const ArmyState& state, Int16 row) {
+  const UnitRec& unit = state.BaseUnits[row];
+  if (unit.ChosenImageIdx > 0) return unit.ChosenImageIdx;
+  for (Int16 m = 1; m <= state.Catalog.TotImages; ++m) {
+    const ImageRec& image = state.Catalog.Images[m];
+    if (PictureFits(image, unit.UnitType, unit.UnitClass, unit.Missile)) return m;
+  }
+  return 0;
+}
+
 void ViewOption_Click(ArmyState& state, const Disk& disk) {
   ShowSelectUnits(state, disk);
 }

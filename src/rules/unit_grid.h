@@ -21,6 +21,10 @@ void FindUnitsAgain(ArmyState& state, const Disk& disk);
 /// chosen for `row`, else the first; that one then becomes the row's choice.
 void ShowUnitImages(ArmyState& state, Int16 line, Int16 row);
 
+/// The picture of the row of `BaseUnits`, by its row in the image catalog: the one chosen, else the
+/// first that fits; 0 when none does.
+Int16 PictureOf(const ArmyState& state, Int16 row);
+
 /// Another view was chosen.
 void ViewOption_Click(ArmyState& state, const Disk& disk);
 

@@ -71,6 +71,9 @@ TEST_F(Grid, PicturesThatFitAreOfferedAndTheFirstIsChosen) {
   Rows(1);
   Rows(0);
   EXPECT_EQ(chosen(), "Oldest|Oldest|6");
+  EXPECT_EQ(Joined(PictureOf(State, 1), PictureOf(State, 4)), "6|0");
+  State.BaseUnits[1].ChosenImageIdx = 0;
+  EXPECT_EQ(PictureOf(State, 1), 1);
   // A choice that does not fit is kept although the list shows another one.
   State.BaseUnits[1].ChosenImageIdx = 2;
   ShowSelectUnits(State, Store);

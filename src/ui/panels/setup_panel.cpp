@@ -11,6 +11,7 @@
 
 #include "armyfile/warnings.h"
 #include "battlefield/setups.h"
+#include "rules/unit_grid.h"
 #include "ui/parts/entry_list.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/unit_pictures.h"
@@ -157,7 +158,7 @@ void SetupPanelWidget::ShowThumbnails() {
   // By the units' texts; of two rows alike, the first.
   std::map<std::string, Int16> images;
   for (Int16 r = 1; r <= army_.TotUnits; ++r)
-    images.emplace(IdentityText(army_.BaseUnits[r]), army_.BaseUnits[r].ChosenImageIdx);
+    images.emplace(IdentityText(army_.BaseUnits[r]), PictureOf(army_, r));
   const auto imageOf = [&](const std::string& unit) {
     const auto found = images.find(unit);
     return found != images.end() ? found->second : Int16(0);

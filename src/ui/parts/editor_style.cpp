@@ -121,7 +121,8 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
   }
   // Of a long leader's name the price behind it stays.
   QStyleOptionButton cut = *button;
-  cut.text = cut.fontMetrics.elidedText(cut.text, Qt::ElideMiddle, cut.rect.width());
+  cut.text =
+      cut.fontMetrics.elidedText(cut.text, Qt::ElideMiddle, cut.rect.width(), Qt::TextShowMnemonic);
   QProxyStyle::drawControl(element, &cut, painter, widget);
 }
 
