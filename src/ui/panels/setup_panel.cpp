@@ -67,14 +67,15 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(0, "Left", 0, 1, frame), 0, 0);
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
-  layout->addLayout(NewUnitList(frame), 0, 1, 3, 1);
+  layout->addLayout(NewUnitList(frame), 0, 1, 5, 1);
   layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0);
   auto* length = NewWarning("descriptionWarning", frame);
   length->setAlignment(Qt::AlignRight);
-  layout->addWidget(length, 3, 1);
+  layout->addWidget(length, 3, 0);
   auto* description = NewDescriptionBox("description", 2, frame);
-  layout->addWidget(description, 4, 0, 1, 2);
+  layout->addWidget(description, 4, 0);
   layout->setRowStretch(4, 1);
+  layout->setColumnStretch(0, 1);
 
   bindings_.AddVisible(frame, field_.Setup.setupFramePanel.Visible);
   bindings_.Add(description, field_.Setup.description);
