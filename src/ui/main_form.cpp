@@ -78,13 +78,18 @@ void MainForm::Refresh() {
   for (PanelWidget* panel : panels_)
     panel->Refresh();
   summary_->Refresh();
-  const int front = static_cast<int>(army.EditFrame.Front);
-  if (editFrame_->currentIndex() != front) {
-    editFrame_->setCurrentIndex(front);
-    panels_.at(static_cast<std::size_t>(front))->FocusFirst();
-  }
+  ShowFront();
   for (const auto& [panel, button] : panelButtons_)
     button->setChecked(panel == army.EditFrame.Front);
+}
+
+void MainForm::ShowFront() {
+  const auto front = static_cast<std::size_t>(session_.Work.Army.EditFrame.Front);
+  // A panel is laid out when it first comes to the front: all of them would hold up the start.
+  if (views_.at(front)->widget() == nullptr) views_[front]->setWidget(panels_[front]);
+  if (editFrame_->currentWidget() == views_[front]) return;
+  editFrame_->setCurrentWidget(views_[front]);
+  panels_[front]->FocusFirst();
 }
 
 void MainForm::keyPressEvent(QKeyEvent* event) {
@@ -197,7 +202,8 @@ QWidget* MainForm::NewPanelStack() {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidgetResizable(true);
-    scroll->setWidget(panel);
+    panel->setParent(scroll->viewport());
+    views_.push_back(scroll);
     editFrame_->addWidget(scroll);
   }
   return stack;

@@ -11,6 +11,7 @@
 #include "rules/army_state.h"
 
 class QBoxLayout;
+class QScrollArea;
 class QStackedLayout;
 class QVBoxLayout;
 
@@ -42,6 +43,8 @@ class MainForm : public QWidget {
                       std::function<void()> show = nullptr);
   void AddQuickSave(QVBoxLayout* column);
   QWidget* NewPanelStack();
+  /// Shows the panel in front.
+  void ShowFront();
   void AddShortcuts();
   void Open(Panel panel);
   void Step(int by);
@@ -49,6 +52,7 @@ class MainForm : public QWidget {
   Session& session_;
   std::vector<std::pair<Panel, PanelButton*>> panelButtons_;
   std::vector<PanelWidget*> panels_;
+  std::vector<QScrollArea*> views_;  ///< of the panels
   QStackedLayout* editFrame_ = nullptr;
   QBoxLayout* contents_;  ///< panels and summary
   SummaryPanel* summary_;
