@@ -96,8 +96,10 @@ TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
   EXPECT_EQ(Work.Army.EditFrame.Front, Panel::Command);
   PressIn("ShowUnitsBtn", Qt::Key_Return);
   EXPECT_EQ(Work.Army.EditFrame.Front, Panel::Units);
+  Click("Buy(12)");
   Press(Qt::Key_M, Qt::AltModifier);
   EXPECT_TRUE(Ticked("ViewOption(1)"));
+  EXPECT_EQ(Form.focusWidget()->objectName(), "Buy(6)") << "the view has no line 12";
   Press(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(Form.isVisible());
   Form.show();

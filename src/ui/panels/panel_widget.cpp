@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/panel_widget.h"
 
+#include <QButtonGroup>
 #include <QHBoxLayout>
 
 #include "ui/parts/qt_text.h"
@@ -22,7 +23,10 @@ void PanelWidget::FocusFirst() {
   for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
     const bool takes = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled();
     if (!takes || !isAncestorOf(next) || !next->isVisibleTo(this)) continue;
-    next->setFocus(Qt::TabFocusReason);
+    const auto* option = qobject_cast<const QAbstractButton*>(next);
+    QButtonGroup* group = option != nullptr ? option->group() : nullptr;
+    QWidget* ticked = group != nullptr ? group->checkedButton() : nullptr;
+    (ticked != nullptr ? ticked : next)->setFocus(Qt::TabFocusReason);
     return;
   }
 }

@@ -55,6 +55,7 @@ QWidget* SetupPanelWidget::NewSetupList() {
   session_.Connect(list, &QListWidget::itemClicked, choose);
   session_.Connect(list, &QListWidget::itemActivated, choose);
   session_.Connect(create, [this] { Command6_Click(field_, army_, disk_); });
+  connect(create, &QPushButton::clicked, this, [this] { units_->setFocus(); });
   session_.Connect(remove, [this] { Command3_Click(army_); });
   return side;
 }

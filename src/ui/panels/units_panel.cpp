@@ -210,8 +210,17 @@ void UnitsPanelWidget::AddAbilities(int line) {
 }
 
 void UnitsPanelWidget::Refresh() {
+  const QWidget* focus = window()->focusWidget();
   PanelWidget::Refresh();
   FitRows();
+  if (focus != nullptr && focus->isHidden() && isAncestorOf(focus)) FocusLastQuantity();
+}
+
+void UnitsPanelWidget::FocusLastQuantity() {
+  int line = gridLines - 1;
+  while (line > 0 && !army_.Units.Buy[line].Visible)
+    --line;
+  findChild<QWidget*>(ElementName("Buy", line))->setFocus();
 }
 
 void UnitsPanelWidget::resizeEvent(QResizeEvent* event) {

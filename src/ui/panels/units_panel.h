@@ -26,6 +26,8 @@ class UnitsPanelWidget : public PanelWidget {
   void AddQuantity(int line);
   void AddPictures(int line);
   void AddAbilities(int line);
+  /// For when another view has taken the line away that had the focus.
+  void FocusLastQuantity();
   /// Lets the rows share the height there is, within what looks well.
   void FitRows();
 
