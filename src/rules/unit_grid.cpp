@@ -116,6 +116,24 @@ Int16 PictureOf(const ArmyState& state, Int16 row) {
   return 0;
 }
 
+std::vector<std::string> LineNames(const UnitsPanel& grid) {
+  std::vector<std::string> texts;
+  for (int k = 0; k < lines && grid.Buy[k].Visible; ++k) {
+    std::string& text = texts.emplace_back(grid.TypeLabel[k].Caption);
+    const auto add = [&text](const char* word, const std::string& caption) {
+      if (!caption.empty()) text += word + caption;
+    };
+    add(" ", grid.ClassLabel[k].Caption);
+    add(" TQ ", grid.TQLabel[k].Caption);
+    add(" Sz ", grid.SizeLabel[k].Caption);
+    add(" ", grid.MissileLabel[k].Caption);
+  }
+  std::vector<std::string> names = texts;
+  for (std::size_t k = 0; k < texts.size(); ++k)
+    if (std::ranges::count(texts, texts[k]) > 1) names[k] += ", line " + std::to_string(k + 1);
+  return names;
+}
+
 void ViewOption_Click(ArmyState& state, const Disk& disk) {
   ShowSelectUnits(state, disk);
 }

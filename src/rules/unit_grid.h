@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "base/host.h"
 #include "base/int16.h"
 #include "rules/army_state.h"
@@ -24,6 +27,10 @@ void ShowUnitImages(ArmyState& state, Int16 line, Int16 row);
 /// The picture of the row of `BaseUnits`, by its row in the image catalog: the one chosen, else the
 /// first that fits; 0 when none does.
 Int16 PictureOf(const ArmyState& state, Int16 row);
+
+/// What tells each visible line from the others when it is heard, not seen: "HI Vet TQ 7 Sz 4".
+/// Lines that are alike all the same have their number, from 1, in it.
+std::vector<std::string> LineNames(const UnitsPanel& grid);
 
 /// Another view was chosen.
 void ViewOption_Click(ArmyState& state, const Disk& disk);

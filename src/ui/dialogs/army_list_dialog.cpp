@@ -17,6 +17,7 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
     : Dialog("ArmyListForm", "Army List", session, parent) {
   auto* picker = new ArmyPicker(form_.ArmyList, bindings_, this);
   EntryList* list = picker->List();
+  list->setAccessibleName("Armies");
   list->setMinimumSize(TextWidth(list, 36), 360);
   auto* frame = NewFrame("", "Army Detail ", this);
   auto* detail = NewLabel("ArmyDetailLabel", "", frame);

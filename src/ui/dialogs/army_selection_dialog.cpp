@@ -15,6 +15,7 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
     : Dialog("ArmySelectionForm", "Army Selection", session, parent) {
   auto* picker = new ArmyPicker(form_.ArmyList, bindings_, this);
   EntryList* list = picker->List();
+  list->setAccessibleName("Base armies");
   list->setMinimumSize(320, 360);
   auto* confirm = Named(new QPushButton("Select Army", this), "Command1");
   confirm->setDefault(true);

@@ -25,7 +25,9 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
 
   auto* layout = new QFormLayout(this);
   const auto addRow = [&](const char* label, const char* caption, auto* widget, auto& control) {
-    layout->addRow(NewLabel(label, caption, this), bindings_.Add(widget, control));
+    auto* text = NewLabel(label, caption, this);
+    text->setBuddy(widget);
+    layout->addRow(text, bindings_.Add(widget, control));
   };
   addRow("Label2", "Name:", name, form_.LeaderName);
   addRow("Label1", "Initiative:", initiative, form_.InitiativeBox);

@@ -104,6 +104,9 @@ void CommandPanelWidget::AddCardRow() {
   cardRows_->addWidget(bindings_.Add(cost, command.SpecCostLabel[j]), j + 1, 1);
   cardRows_->addWidget(bindings_.Add(most, command.SpecMaxLabel[j]), j + 1, 2);
   cardRows_->addWidget(bindings_.Add(quantity, command.SpecBuy[j]), j + 1, 3);
+  bindings_.Add([quantity, &card = command.SpecNameLabel[j], &limit = command.SpecMaxLabel[j]] {
+    ShowSpokenName(quantity, ToQt("Buy " + card.Caption + ", at most " + limit.Caption));
+  });
   session_.Guard(quantity, [this, j] { return SpecBuy_Validate(army_, user_, j); });
 }
 

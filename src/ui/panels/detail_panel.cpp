@@ -26,6 +26,7 @@ QWidget* DetailPanelWidget::NewDescriptionFrame() {
   auto* frame = NewFrame("Frame3", "Army Description ", this);
   auto* layout = new QVBoxLayout(frame);
   auto* description = bindings_.Add(NewDescriptionBox("ArmyDesc", 1, frame), header_.ArmyDesc);
+  description->setAccessibleName("Army Description");
   auto* length = NewWarning("ArmyDescWarning", frame);
   length->setAlignment(Qt::AlignRight);
   layout->addWidget(length);
@@ -42,9 +43,9 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
 
   using Validate = bool (*)(ArmyHeader&, Host&);
   using Click = void (*)(ArmyHeader&);
-  const auto add = [&](const char* frameName, const char* labelName, const char* caption,
-                       const char* boxName, TextBox& box, Validate validate, const char* eraName,
-                       Table<OptionButton, 0, 1>& era, Click click) {
+  const auto add = [&](const char* frameName, const char* labelName, const QString& spoken,
+                       const char* caption, const char* boxName, TextBox& box, Validate validate,
+                       const char* eraName, Table<OptionButton, 0, 1>& era, Click click) {
     auto* half = Named(new QFrame(frame), frameName);
     auto* row = new QHBoxLayout(half);
     row->setContentsMargins(0, 0, 0, 0);
@@ -52,17 +53,23 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     label->setMinimumWidth(TextWidth(label, 7));
     row->addWidget(label);
     auto* year = bindings_.Add(NewQuantityBox(boxName, half), box);
+    label->setBuddy(year);
+    ShowSpokenName(year, spoken + " year");
     year->setFixedWidth(TextWidth(year, 8));
     row->addWidget(year);
     auto* eras = bindings_.Add(NewOptions(eraName, 2, row, half), era);
+    bindings_.Add([eras, spoken] {
+      for (QAbstractButton* option : eras->buttons())
+        ShowSpokenName(option, spoken + " " + option->text());
+    });
     layout->addWidget(half);
     const auto refused = [this, validate] { return validate(header_, user_); };
     session_.Guard(year, refused, &header_.ArmyPeriod);
     session_.Connect(eras, [this, click] { click(header_); });
   };
-  add("Frame9", "Label30", "From:", "FromData", header_.FromData, FromData_Validate, "FromACBC",
-      header_.FromACBC, FromACBC_Click);
-  add("Frame8", "Label29", "To:", "ToData", header_.ToData, ToData_Validate, "toACBC",
+  add("Frame9", "Label30", "From", "From:", "FromData", header_.FromData, FromData_Validate,
+      "FromACBC", header_.FromACBC, FromACBC_Click);
+  add("Frame8", "Label29", "To", "To:", "ToData", header_.ToData, ToData_Validate, "toACBC",
       header_.toACBC, toACBC_Click);
   return frame;
 }

@@ -39,9 +39,13 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   name->setMinimumWidth(TextWidth(name, 48));
 
   auto* layout = new QGridLayout(frame);
-  layout->addWidget(NewLabel("Label18", "Army Name", frame), 0, 0);
+  auto* nameLabel = NewLabel("Label18", "Army Name", frame);
+  nameLabel->setBuddy(name);
+  layout->addWidget(nameLabel, 0, 0);
   layout->addWidget(name, 0, 1);
-  layout->addWidget(NewLabel("Label19", "File", frame), 1, 0);
+  auto* fileLabel = NewLabel("Label19", "File", frame);
+  fileLabel->setBuddy(file);
+  layout->addWidget(fileLabel, 1, 0);
   layout->addWidget(file, 1, 1);
   layout->addWidget(fileHint, 1, 2);
   layout->setColumnStretch(2, 1);

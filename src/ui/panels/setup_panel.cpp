@@ -43,6 +43,7 @@ QWidget* SetupPanelWidget::NewSetupList() {
   auto* list = new EntryList("setupList", side);
   auto* create = Named(new QPushButton("New Setup", side), "Command6");
   auto* remove = Named(new QPushButton("Delete Setup", side), "Command3");
+  list->setAccessibleName("Setups");
   layout->addWidget(list, 1);
   layout->addWidget(create);
   layout->addWidget(remove);
@@ -69,11 +70,13 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
   layout->addLayout(NewUnitList(frame), 0, 1, 5, 1);
-  layout->addWidget(NewLabel("Label1(3)", "Description", frame), 3, 0);
+  auto* label = NewLabel("Label1(3)", "Description", frame);
+  layout->addWidget(label, 3, 0);
   auto* length = NewWarning("descriptionWarning", frame);
   length->setAlignment(Qt::AlignRight);
   layout->addWidget(length, 3, 0);
   auto* description = NewDescriptionBox("description", 2, frame);
+  label->setBuddy(description);
   layout->addWidget(description, 4, 0);
   layout->setRowStretch(4, 1);
   layout->setColumnStretch(0, 1);
@@ -91,6 +94,7 @@ QLayout* SetupPanelWidget::NewUnitList(QWidget* parent) {
   units_ = bindings_.Add(new EntryList("unitList", parent), field_.Setup.unitList);
   units_->setMinimumWidth(TextWidth(units_, 28));
   units_->setIconSize(thumbnailSize);
+  units_->setAccessibleName("Units to deploy");
   units_->setDragEnabled(true);
   units_->OnKey([this](const QKeyEvent& key) { return DeployByKey(key); });
   connect(units_, &QListWidget::itemDoubleClicked, this,
@@ -113,13 +117,16 @@ QWidget* SetupPanelWidget::NewZone(int index, const char* caption, int firstPlac
   auto* name = NewLabel(ElementName("Label1", index), caption, zone);
   name->setMinimumWidth(TextWidth(name, 7));
   layout->addWidget(name, 0, 0);
-  for (int place = firstPlace; place <= lastPlace; ++place)
-    AddPlace(place, layout, place - firstPlace, zone);
+  for (int place = firstPlace; place <= lastPlace; ++place) {
+    const int row = place - firstPlace;
+    AddPlace(place, QString("%1 %2").arg(caption).arg(row + 1), layout, row, zone);
+  }
   layout->setColumnStretch(4, 1);
   return zone;
 }
 
-void SetupPanelWidget::AddPlace(int place, QGridLayout* layout, int row, QWidget* zone) {
+void SetupPanelWidget::AddPlace(int place, const QString& spoken, QGridLayout* layout, int row,
+                                QWidget* zone) {
   auto* number = NewHint("", QString::number(place + 1), zone);
   auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
   assign->setFixedWidth(TextWidth(assign, 6));
@@ -136,6 +143,11 @@ void SetupPanelWidget::AddPlace(int place, QGridLayout* layout, int row, QWidget
   layout->addWidget(assign, row, 2);
   layout->addWidget(thumbnail, row, 3);
   layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 4);
+
+  assign->setAccessibleName("Deploy to " + spoken);
+  bindings_.Add([unit, spoken] {
+    ShowSpokenName(unit, spoken + ": " + (unit->text().isEmpty() ? "empty" : unit->text()));
+  });
 
   session_.Connect(assign, [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   const auto deploy = [this, place](int entry) { Deploy(entry, place); };

@@ -30,7 +30,7 @@ class SetupPanelWidget : public PanelWidget {
   QWidget* NewSetupFrame();
   QLayout* NewUnitList(QWidget* parent);
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
-  void AddPlace(int place, QGridLayout* layout, int row, QWidget* zone);
+  void AddPlace(int place, const QString& spoken, QGridLayout* layout, int row, QWidget* zone);
   bool DeployByKey(const QKeyEvent& key);
   /// Shows the pictures of the units.
   void ShowThumbnails();

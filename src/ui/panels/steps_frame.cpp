@@ -29,6 +29,7 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
   layout->addWidget(list_);
   layout->addWidget(button_, 0, Qt::AlignRight);
   layout->addStretch();
+  list_->setAccessibleName("Still missing");
   list_->setWordWrap(true);
   list_->setResizeMode(QListView::Adjust);
   list_->setSpacing(3);

@@ -86,6 +86,7 @@ QWidget* TerrainPanelWidget::NewPalette() {
     auto* piece = new TerrainTile(ElementName("TerrImg", kind), palette);
     piece->setFixedSize(pieceSide, pieceSide);
     piece->MakePiece(kind);
+    piece->setAccessibleName(QString(captions[kind]).simplified());
     piece->setToolTip("Drag onto an area, or click here and then the area");
     pieces_.push_back(piece);
     auto* caption = NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette);
@@ -107,6 +108,12 @@ QWidget* TerrainPanelWidget::NewAreas() {
     auto* area = new TerrainTile(ElementName("Area", i), areas);
     areas_.push_back(area);
     area->setToolTip(QString("Area %1").arg(i + 1));
+    bindings_.Add([this, area, i] {
+      const int kind = field_.Terrain.Area[i].Picture;
+      QString word = ToQt(field_.TerrainKinds[kind].Name).toLower();
+      if (!word.isEmpty()) word[0] = word[0].toUpper();
+      ShowSpokenName(area, QString("Area %1: %2").arg(i + 1).arg(word));
+    });
     area->MakeArea([this, i](int piece) { PutDown(piece, i); });
     layout->addWidget(area, i / 3, i % 3);
     AddPicture(area, field_.Terrain.Area[i]);

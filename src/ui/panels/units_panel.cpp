@@ -111,6 +111,7 @@ QWidget* UnitsPanelWidget::NewGrid() {
   grid_->setHorizontalSpacing(8);
   AddHeadings();
   for (int line = 0; line < gridLines; ++line) {
+    lines_.emplace_back();
     AddTexts(line);
     AddQuantity(line);
     AddPictures(line);
@@ -167,6 +168,7 @@ void UnitsPanelWidget::AddTexts(int line) {
 void UnitsPanelWidget::AddQuantity(int line) {
   auto* quantity = NewQuantityBox(ElementName("Buy", line), grid_->parentWidget());
   quantity->setFixedWidth(TextWidth(quantity, headings[buy].Characters));
+  lines_.back().Quantity = quantity;
   grid_->addWidget(bindings_.Add(quantity, army_.Units.Buy[line]), line + 1, buy);
   session_.Guard(quantity, [this, line] { return Buy_Validate(army_, disk_, user_, line); });
 }
@@ -180,6 +182,7 @@ void UnitsPanelWidget::AddPictures(int line) {
   pictures->setMinimumWidth(TextWidth(pictures, 12));
   pictures->setMaximumWidth(TextWidth(pictures, 36));
   pictures->setFocusPolicy(Qt::StrongFocus);
+  lines_.back().Pictures = pictures;
   grid_->addWidget(bindings_.Add(pictures, units.ImageName[line]), line + 1, image);
   session_.Connect(pictures, [this, line] { ImageName_Click(army_, line); });
 
@@ -194,6 +197,7 @@ void UnitsPanelWidget::AddPictures(int line) {
   auto* show = Named(new QPushButton("View", grid), ElementName("ViewBtn", line));
   show->setFixedSize(TextWidth(show, 8), pictures->sizeHint().height());
   grid_->addWidget(show, line + 1, view);
+  lines_.back().View = show;
   bindings_.AddVisible(show, units.ViewBtn[line].Visible);
   session_.Connect(show, [this, line] { ViewBtn_Click(army_, disk_, user_, line); });
 }
@@ -201,6 +205,7 @@ void UnitsPanelWidget::AddPictures(int line) {
 void UnitsPanelWidget::AddAbilities(int line) {
   Label& label = army_.Units.specLabel[line];
   auto* abilities = Named(new QToolButton(grid_->parentWidget()), ElementName("specLabel", line));
+  lines_.back().Abilities = abilities;
   abilities->setAutoRaise(true);
   abilities->setFocusPolicy(Qt::StrongFocus);
   abilities->setToolTip("Special abilities");
@@ -212,6 +217,7 @@ void UnitsPanelWidget::AddAbilities(int line) {
 void UnitsPanelWidget::Refresh() {
   const QWidget* focus = window()->focusWidget();
   PanelWidget::Refresh();
+  ShowSpokenNames();
   FitRows();
   if (focus != nullptr && focus->isHidden() && isAncestorOf(focus)) FocusLastQuantity();
 }
@@ -221,6 +227,20 @@ void UnitsPanelWidget::FocusLastQuantity() {
   while (line > 0 && !army_.Units.Buy[line].Visible)
     --line;
   findChild<QWidget*>(ElementName("Buy", line))->setFocus();
+}
+
+void UnitsPanelWidget::ShowSpokenNames() {
+  const auto names = LineNames(army_.Units);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const int k = static_cast<int>(i);
+    const QString name = ToQt(names[i]);
+    const Line& line = lines_.at(i);
+    ShowSpokenName(line.Quantity,
+                   "Buy " + name + ", at most " + ToQt(army_.Units.MaxLabel[k].Caption));
+    ShowSpokenName(line.Pictures, "Picture of " + name);
+    ShowSpokenName(line.View, "View " + name);
+    ShowSpokenName(line.Abilities, "Special abilities of " + name);
+  }
 }
 
 void UnitsPanelWidget::resizeEvent(QResizeEvent* event) {

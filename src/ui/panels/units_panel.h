@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "ui/panels/panel_widget.h"
 
 class QGridLayout;
@@ -28,10 +30,18 @@ class UnitsPanelWidget : public PanelWidget {
   void AddAbilities(int line);
   /// For when another view has taken the line away that had the focus.
   void FocusLastQuantity();
+  /// Says of which line each control of it is.
+  void ShowSpokenNames();
   /// Lets the rows share the height there is, within what looks well.
   void FitRows();
 
+  /// The controls of a line.
+  struct Line {
+    QWidget *Quantity, *Pictures, *View, *Abilities;
+  };
+
   QGridLayout* grid_ = nullptr;
+  std::vector<Line> lines_;
 };
 
 }  // namespace tarnwick

@@ -152,6 +152,13 @@ void ShowTextColour(QWidget* widget, const QColor& colour) {
   widget->setPalette(palette);
 }
 
+void ShowSpokenName(QWidget* widget, const QString& name) {
+  if (widget->accessibleName() == name) return;
+  widget->setAccessibleName(name);
+  // Some systems take the entry for the name of a drop-down list; they say this behind it.
+  if (widget->inherits("QComboBox")) widget->setAccessibleDescription(name);
+}
+
 QLabel* NewNumberLabel(const QString& name, QWidget* parent) {
   auto* label = NewLabel(name, "", parent);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -40,6 +40,8 @@ QLabel* NewHint(const QString& name, const QString& caption, QWidget* parent);
 
 /// Sets what differs.
 void ShowBold(QWidget* widget, bool bold);
+/// What a screen reader calls the widget.
+void ShowSpokenName(QWidget* widget, const QString& name);
 void ShowTextColour(QWidget* widget, const QColor& colour);
 
 /// A label whose number stands on the right.

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include <map>
+
+#include <QAccessible>
+
+#include "ui_fixture.h"
+
+namespace tarnwick {
+
+/// What the user sees of a window and can work.
+inline QList<QWidget*> ControlsOf(const QWidget& window) {
+  auto controls = window.findChildren<QWidget*>();
+  controls.removeIf([](const QWidget* widget) {
+    const bool button = widget->inherits("QAbstractButton");
+    return !widget->isVisible() || (widget->focusPolicy() == Qt::NoFocus && !button);
+  });
+  return controls;
+}
+
+/// What a screen reader calls a control. A drop-down list goes by its entry; what it is for is said
+/// by its label or description.
+inline QString HeardName(QWidget& control) {
+  const auto* spoken = QAccessible::queryAccessibleInterface(&control);
+  if (spoken->role() != QAccessible::ComboBox) return spoken->text(QAccessible::Name);
+  const auto labels = spoken->relations(QAccessible::Label);
+  return labels.isEmpty() ? spoken->text(QAccessible::Description)
+                          : labels.front().first->text(QAccessible::Name);
+}
+
+struct AccessibilityTest : WindowTest {
+  /// Each panel of an army, with a setup, and each dialog.
+  void SeeAll(const std::function<void(QWidget&)>& see) {
+    const auto seeDialog = [&](const char* button, const char* dialog) {
+      OnDialog([&see, dialog, this] {
+        see(Find(dialog));
+        CloseDialog();
+      });
+      Click(button);
+    };
+    LoadTrebia();
+    for (const auto& [button, panel] : PanelButtons) {
+      Click(button);
+      if (panel == Panel::Setup) Click("Command6");
+      see(Form);
+    }
+    seeDialog("LoadBtn", "ArmyListForm");
+    Click("ShowSaveFrame");
+    seeDialog("NewArmyBtn", "ArmySelectionForm");
+    LoadTrebia();
+    Click("ShowCommandBtn");
+    seeDialog("LeaderBtn", "LeaderMgmtForm");
+    Click("ShowUnitsBtn");
+    seeDialog("specLabel(0)", "specForm");
+  }
+  QString Spoken(const QString& name) const { return Find(name).accessibleName(); }
+};
+
+TEST_F(AccessibilityTest, EveryControlHasANameOfItsOwn) {
+  SeeAll([](const QWidget& window) {
+    std::map<std::pair<QAccessible::Role, QString>, QString> known;
+    for (QWidget* control : ControlsOf(window)) {
+      const QString name = HeardName(*control);
+      EXPECT_FALSE(name.trimmed().isEmpty()) << control->objectName().toStdString();
+      QString& other = known[{QAccessible::queryAccessibleInterface(control)->role(), name}];
+      EXPECT_EQ(other, "") << name.toStdString();
+      other = control->objectName();
+    }
+  });
+}
+
+TEST_F(AccessibilityTest, NamesSayWhichOneItIs) {
+  LoadTrebia();
+  Click("ShowUnitsBtn");
+  EXPECT_EQ(Spoken("Buy(0)"), "Buy HI TQ 6 Sz 4, at most 8");
+  EXPECT_EQ(Spoken("specLabel(0)"), "Special abilities of HI TQ 6 Sz 4");
+  UnitsPanel& grid = Work.Army.Units;
+  for (const auto column : {&UnitsPanel::TypeLabel, &UnitsPanel::ClassLabel, &UnitsPanel::TQLabel,
+                            &UnitsPanel::SizeLabel, &UnitsPanel::MissileLabel})
+    (grid.*column)[1] = (grid.*column)[0];
+  Form.Refresh();
+  EXPECT_EQ(Spoken("ViewBtn(1)"), "View HI TQ 6 Sz 4, line 2");
+  Click("ShowCommandBtn");
+  EXPECT_EQ(Spoken("SpecBuy(0)"), "Buy RALLY, at most 4");
+  Click("ShowTerrainBtn", "TerrImg(3)", "Area(4)");
+  EXPECT_EQ(Spoken("TerrImg(1)"), "Slope 30ap/5cp");
+  EXPECT_EQ(Spoken("Area(4)"), "Area 5: Wood");
+  Click("ShowSetup", "Command6");
+  EXPECT_EQ(Spoken("unit(3)"), "Centre 2: empty");
+  ClickEntry("unitList", 0);
+  Click("assignBtn(3)");
+  EXPECT_EQ(Spoken("unit(3)"), "Centre 2: " + Text("unit(3)"));
+}
+
+}  // namespace tarnwick
