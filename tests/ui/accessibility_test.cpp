@@ -39,6 +39,8 @@ struct AccessibilityTest : WindowTest {
       Click(button);
     };
     LoadTrebia();
+    // Nobody gets out of an empty year box.
+    Work.Header.FromData.Text = Work.Header.ToData.Text = "200";
     for (const auto& [button, panel] : PanelButtons) {
       Click(button);
       if (panel == Panel::Setup) Click("Command6");
@@ -90,6 +92,27 @@ TEST_F(AccessibilityTest, NamesSayWhichOneItIs) {
   ClickEntry("unitList", 0);
   Click("assignBtn(3)");
   EXPECT_EQ(Spoken("unit(3)"), "Centre 2: " + Text("unit(3)"));
+}
+
+TEST_F(AccessibilityTest, TabGoesThroughAllInTheOrderOfReading) {
+  SeeAll([this](QWidget& window) {
+    QList<QWidget*> reached;
+    const auto top = [&window](const QWidget* one) { return one->mapTo(&window, QPoint()); };
+    int backwards = 0;
+    for (QWidget* now = window.focusWidget(); !reached.contains(now); now = window.focusWidget()) {
+      const QPoint before = reached.empty() ? QPoint() : top(reached.back());
+      const bool on = top(now).x() > before.x() || top(now).y() > before.y();
+      if (!on && ++backwards > 1)  // once, from the last to the first
+        ADD_FAILURE() << reached.back()->objectName().toStdString() << " leads to "
+                      << now->objectName().toStdString();
+      reached.append(now);
+      Press(Qt::Key_Tab);
+    }
+    for (const QWidget* one : ControlsOf(window)) {
+      const bool takes = one->isEnabled() && (one->focusPolicy() & Qt::TabFocus);
+      EXPECT_EQ(reached.contains(one), takes) << one->objectName().toStdString();
+    }
+  });
 }
 
 }  // namespace tarnwick

@@ -59,6 +59,7 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
   new PricedOptions(leaders);
   auto* define = Named(new QPushButton(StandardIcon(), "&Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
+  lastControl_ = define;
   layout->addSpacing(8);
   layout->addWidget(define, 0, Qt::AlignLeft);
   auto* warning = NewWarning("LeaderWarning", frame);
@@ -100,6 +101,9 @@ void CommandPanelWidget::AddCardRow() {
   auto* most = NewNumberLabel(ElementName("SpecMaxLabel", j), cards_);
   auto* quantity = NewQuantityBox(ElementName("SpecBuy", j), cards_);
   quantity->setFixedWidth(TextWidth(quantity, 7));
+  // The summary was made before; Tab comes there after the cards all the same.
+  setTabOrder(lastControl_, quantity);
+  lastControl_ = quantity;
   cardRows_->addWidget(bindings_.Add(name, command.SpecNameLabel[j]), j + 1, 0);
   cardRows_->addWidget(bindings_.Add(cost, command.SpecCostLabel[j]), j + 1, 1);
   cardRows_->addWidget(bindings_.Add(most, command.SpecMaxLabel[j]), j + 1, 2);

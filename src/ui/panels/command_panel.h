@@ -22,6 +22,7 @@ class CommandPanelWidget : public PanelWidget {
 
   QWidget* cards_ = nullptr;
   QGridLayout* cardRows_ = nullptr;
+  QWidget* lastControl_ = nullptr;  ///< of those that are there, in the order of Tab
   int cardRowCount_ = 0;
 };
 
