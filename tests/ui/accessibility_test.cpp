@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
 #include <map>
+#include <set>
 
 #include <QAccessible>
 
@@ -92,6 +93,22 @@ TEST_F(AccessibilityTest, NamesSayWhichOneItIs) {
   ClickEntry("unitList", 0);
   Click("assignBtn(3)");
   EXPECT_EQ(Spoken("unit(3)"), "Centre 2: " + Text("unit(3)"));
+}
+
+TEST_F(AccessibilityTest, EachMarkedLetterStandsForOneThing) {
+  SeeAll([](const QWidget& window) {
+    std::set<QString> letters;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+      const auto* label = qobject_cast<const QLabel*>(widget);
+      const char* text = widget->inherits("QGroupBox") ? "title" : "text";
+      const bool marks =
+          label ? label->buddy() != nullptr : widget->inherits("QAbstractButton") || text[1] == 'i';
+      if (!marks || !widget->isVisible()) continue;
+      const QString letter = QKeySequence::mnemonic(widget->property(text).toString()).toString();
+      EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << letter.toStdString();
+    }
+    EXPECT_GT(letters.size(), 0U);
+  });
 }
 
 TEST_F(AccessibilityTest, TabGoesThroughAllInTheOrderOfReading) {

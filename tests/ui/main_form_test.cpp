@@ -100,6 +100,9 @@ TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
   Press(Qt::Key_M, Qt::AltModifier);
   EXPECT_TRUE(Ticked("ViewOption(1)"));
   EXPECT_EQ(Form.focusWidget()->objectName(), "Buy(6)") << "the view has no line 12";
+  Click("ShowSaveFrame");
+  Press(Qt::Key_F, Qt::AltModifier);
+  EXPECT_EQ(Form.focusWidget()->objectName(), "ArmyFileName");
   Press(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(Form.isVisible());
   Form.show();

@@ -25,8 +25,8 @@ ArmyListDialog::ArmyListDialog(Session& session, QWidget* parent)
   detail->setWordWrap(true);
   detail->setMinimumWidth(TextWidth(detail, 40));
   (new QVBoxLayout(frame))->addWidget(detail);
-  auto* remove = Named(new QPushButton("Delete Army", this), "DelArmy");
-  auto* select = Named(new QPushButton("Select Army", this), "Command1");
+  auto* remove = Named(new QPushButton("&Delete Army", this), "DelArmy");
+  auto* select = Named(new QPushButton("&Select Army", this), "Command1");
   select->setDefault(true);
   remove->setAutoDefault(false);
 

@@ -17,7 +17,7 @@ ArmySelectionDialog::ArmySelectionDialog(Session& session, QWidget* parent)
   EntryList* list = picker->List();
   list->setAccessibleName("Base armies");
   list->setMinimumSize(320, 360);
-  auto* confirm = Named(new QPushButton("Select Army", this), "Command1");
+  auto* confirm = Named(new QPushButton("&Select Army", this), "Command1");
   confirm->setDefault(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(picker);

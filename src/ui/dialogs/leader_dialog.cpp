@@ -20,7 +20,7 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
   cost->setAutoFillBackground(true);
   cost->setBackgroundRole(QPalette::Button);
   cost->setMargin(3);
-  auto* define = Named(new QPushButton("Define new Leader", this), "Command1");
+  auto* define = Named(new QPushButton("&Define new Leader", this), "Command1");
   define->setDefault(true);
 
   auto* layout = new QFormLayout(this);
@@ -29,9 +29,9 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
     text->setBuddy(widget);
     layout->addRow(text, bindings_.Add(widget, control));
   };
-  addRow("Label2", "Name:", name, form_.LeaderName);
-  addRow("Label1", "Initiative:", initiative, form_.InitiativeBox);
-  addRow("Label3", "Command:", command, form_.CommandBox);
+  addRow("Label2", "&Name:", name, form_.LeaderName);
+  addRow("Label1", "&Initiative:", initiative, form_.InitiativeBox);
+  addRow("Label3", "&Command:", command, form_.CommandBox);
   addRow("Label4", "Cost:", cost, form_.leaderCost);
   layout->addRow(define);
   bindings_.Refresh();

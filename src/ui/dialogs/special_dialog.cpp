@@ -17,7 +17,7 @@ SpecialDialog::SpecialDialog(Session& session, QWidget* parent)
   auto* label = NewLabel("specText", ToQt(text), this);
   label->setWordWrap(true);
   label->setMinimumWidth(TextWidth(label, 60));
-  auto* close = Named(new QPushButton("Close", this), "Command1");
+  auto* close = Named(new QPushButton("&Close", this), "Command1");
   close->setDefault(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(label, 1);

@@ -23,7 +23,7 @@ DetailPanelWidget::DetailPanelWidget(Session& session)
 }
 
 QWidget* DetailPanelWidget::NewDescriptionFrame() {
-  auto* frame = NewFrame("Frame3", "Army Description ", this);
+  auto* frame = NewFrame("Frame3", "&Army Description ", this);
   auto* layout = new QVBoxLayout(frame);
   auto* description = bindings_.Add(NewDescriptionBox("ArmyDesc", 1, frame), header_.ArmyDesc);
   description->setAccessibleName("Army Description");
@@ -67,9 +67,9 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     session_.Guard(year, refused, &header_.ArmyPeriod);
     session_.Connect(eras, [this, click] { click(header_); });
   };
-  add("Frame9", "Label30", "From", "From:", "FromData", header_.FromData, FromData_Validate,
+  add("Frame9", "Label30", "From", "&From:", "FromData", header_.FromData, FromData_Validate,
       "FromACBC", header_.FromACBC, FromACBC_Click);
-  add("Frame8", "Label29", "To", "To:", "ToData", header_.ToData, ToData_Validate, "toACBC",
+  add("Frame8", "Label29", "To", "T&o:", "ToData", header_.ToData, ToData_Validate, "toACBC",
       header_.toACBC, toACBC_Click);
   return frame;
 }
@@ -80,8 +80,8 @@ QWidget* DetailPanelWidget::NewTypeFrame() {
   const auto add = [&](const char* name, const char* caption, CheckBox& control) {
     layout->addWidget(bindings_.Add(Named(new QCheckBox(caption, frame), name), control));
   };
-  add("TYPE_IsPersonal", "Personal", header_.TYPE_IsPersonal);
-  add("TYPE_IsFantasy", "Fantasy", header_.TYPE_IsFantasy);
+  add("TYPE_IsPersonal", "&Personal", header_.TYPE_IsPersonal);
+  add("TYPE_IsFantasy", "Fa&ntasy", header_.TYPE_IsFantasy);
   return frame;
 }
 
@@ -94,12 +94,12 @@ QWidget* DetailPanelWidget::NewRulesFrame() {
     layout->addWidget(bindings_.Add(box, control), place % 3, place / 3);
     ++place;
   };
-  add("Discipline", "Discipline", header_.Discipline);
-  add("Ferocity", "Ferocity", header_.Ferocity);
-  add("TribalCheck", "Tribal Command", header_.TribalCheck);
-  add("Mobility", "Mobility", header_.Mobility);
-  add("LongSword", "Long Sword", header_.LongSword);
-  add("FOW", "FOW", header_.FOW);
+  add("Discipline", "Discipl&ine", header_.Discipline);
+  add("Ferocity", "Fe&rocity", header_.Ferocity);
+  add("TribalCheck", "Tri&bal Command", header_.TribalCheck);
+  add("Mobility", "&Mobility", header_.Mobility);
+  add("LongSword", "Lon&g Sword", header_.LongSword);
+  add("FOW", "FO&W", header_.FOW);
   return frame;
 }
 

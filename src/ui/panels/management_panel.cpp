@@ -24,7 +24,7 @@ ManagementPanelWidget::ManagementPanelWidget(Session& session)
 
 QWidget* ManagementPanelWidget::NewModuleFrame() {
   auto* frame = NewLineFrame("Frame10", "Module", this);
-  auto* modules = NewOptions("modOption", 2, frame->layout(), frame, "VB");
+  auto* modules = NewOptions("modOption", 2, frame->layout(), frame, "EB");
   bindings_.Add(modules, army_.Management.modOption);
   session_.Connect(modules, [this] { modOption_Click(work_, disk_); });
   return frame;
@@ -39,11 +39,11 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   name->setMinimumWidth(TextWidth(name, 48));
 
   auto* layout = new QGridLayout(frame);
-  auto* nameLabel = NewLabel("Label18", "Army Name", frame);
+  auto* nameLabel = NewLabel("Label18", "Army &Name", frame);
   nameLabel->setBuddy(name);
   layout->addWidget(nameLabel, 0, 0);
   layout->addWidget(name, 0, 1);
-  auto* fileLabel = NewLabel("Label19", "File", frame);
+  auto* fileLabel = NewLabel("Label19", "&File", frame);
   fileLabel->setBuddy(file);
   layout->addWidget(fileLabel, 1, 0);
   layout->addWidget(file, 1, 1);
@@ -75,9 +75,9 @@ QWidget* ManagementPanelWidget::NewButtons() {
     layout->addWidget(NewHint("", key, row), line, 2);
     return button;
   };
-  auto* newArmy = add("NewArmyBtn", "&New army", "Begin from a base army", "Ctrl+N");
+  auto* newArmy = add("NewArmyBtn", "New &army", "Begin from a base army", "Ctrl+N");
   auto* load = add("LoadBtn", "L&oad army", "Open a saved army", "Ctrl+O");
-  auto* save = add("SaveBtn", "Sav&e Army", "Write the army to its file", "Ctrl+S");
+  auto* save = add("SaveBtn", "Sa&ve Army", "Write the army to its file", "Ctrl+S");
   auto* warning = NewWarning("BaseArmyWarning", row);
   layout->addWidget(warning, layout->rowCount(), 0, 1, 4);
   layout->setColumnStretch(3, 1);

@@ -26,14 +26,14 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
     list->setMinimumContentsLength(6);
     lists->addRow(caption, bindings_.Add(list, control));
   };
-  addList("M_Size", "Size", army_.Monster.M_Size);
+  addList("M_Size", "Si&ze", army_.Monster.M_Size);
   addList("M_TQ", "TQ", army_.Monster.M_TQ);
-  addList("M_Type", "Type", army_.Monster.M_Type);
+  addList("M_Type", "T&ype", army_.Monster.M_Type);
   Body()->addWidget(frame);
 
   auto* buttons = new QHBoxLayout;
   const QString tip = "Armies are saved and loaded on the panel Load/Save";
-  auto* newMonster = Named(new QPushButton("New army", this), "NewMonsterBtn");
+  auto* newMonster = Named(new QPushButton("New &army", this), "NewMonsterBtn");
   buttons->addWidget(newMonster);
   buttons->addWidget(NewIdleButton("Command5", "Load army", tip, this));
   buttons->addWidget(NewIdleButton("Command4", "Save Army", tip, this));

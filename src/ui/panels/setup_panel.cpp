@@ -41,8 +41,8 @@ QWidget* SetupPanelWidget::NewSetupList() {
   auto* layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   auto* list = new EntryList("setupList", side);
-  auto* create = Named(new QPushButton("New Setup", side), "Command6");
-  auto* remove = Named(new QPushButton("Delete Setup", side), "Command3");
+  auto* create = Named(new QPushButton("&New Setup", side), "Command6");
+  auto* remove = Named(new QPushButton("D&elete Setup", side), "Command3");
   list->setAccessibleName("Setups");
   layout->addWidget(list, 1);
   layout->addWidget(create);
@@ -70,7 +70,7 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   layout->addWidget(NewZone(1, "Centre", 2, 6, frame), 1, 0);
   layout->addWidget(NewZone(2, "Right", 7, 8, frame), 2, 0);
   layout->addLayout(NewUnitList(frame), 0, 1, 5, 1);
-  auto* label = NewLabel("Label1(3)", "Description", frame);
+  auto* label = NewLabel("Label1(3)", "Descri&ption", frame);
   layout->addWidget(label, 3, 0);
   auto* length = NewWarning("descriptionWarning", frame);
   length->setAlignment(Qt::AlignRight);
