@@ -4,6 +4,7 @@
 #include <set>
 
 #include <QAccessible>
+#include <QScrollArea>
 
 #include "ui_fixture.h"
 
@@ -130,6 +131,38 @@ TEST_F(AccessibilityTest, TabGoesThroughAllInTheOrderOfReading) {
       EXPECT_EQ(reached.contains(one), takes) << one->objectName().toStdString();
     }
   });
+}
+
+TEST(SmallScreen, EveryControlCanBeReached) {
+  const QFont usual = QApplication::font();
+  for (const int points : {usual.pointSize(), 11, 12}) {
+    QFont font = usual;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    const ShippedFolder shipped;
+    Editor editor(shipped.Folder.Path());
+    WindowDriver user;
+    ASSERT_TRUE(editor.Form.Start());
+    editor.Form.show();
+    user.OnDialog([&user] { user.ClickEntry("ArmyList", "Trebia", true); });
+    user.Click("ShowSaveFrame", "LoadBtn");
+    for (const QSize size : {QSize(1092, 614), QSize(910, 512), QSize(960, 540)}) {
+      editor.Form.resize(size);
+      for (const auto& [button, panel] : WindowTest::PanelButtons) {
+        user.Click(button);
+        EXPECT_EQ(editor.Form.size(), size) << button << points;
+        for (const QWidget* control : ControlsOf(editor.Form)) {
+          const QWidget* seen = control;
+          for (const QWidget* part = control; part != nullptr; part = part->parentWidget())
+            if (part->inherits("QScrollArea")) seen = part;
+          const QRect place(seen->mapTo(&editor.Form, QPoint()), seen->size());
+          EXPECT_TRUE(editor.Form.rect().contains(place))
+              << control->objectName().toStdString() << points;
+        }
+      }
+    }
+  }
+  QApplication::setFont(usual);
 }
 
 }  // namespace tarnwick

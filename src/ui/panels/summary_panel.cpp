@@ -47,9 +47,12 @@ SummaryPanel::SummaryPanel(Session& session, const std::function<void(Panel)>& o
   commandPoints_ = AddBudget(commandLeft_);
   limits_ = new LimitsFrame(units, this);
   lower_->addWidget(limits_);
-  lower_->addWidget(NewArmyLines());
+  // Below each other in the strip, too: beside each other they are wider than a small screen.
+  ending_ = new QVBoxLayout;
+  ending_->addWidget(NewArmyLines());
   steps_ = new StepsFrame(open, this);
-  lower_->addWidget(steps_, 1);
+  ending_->addWidget(steps_, 1);
+  lower_->addLayout(ending_, 1);
   Fold(false);
 }
 
@@ -125,7 +128,8 @@ void SummaryPanel::Fold(bool folded) {
   limits_->Fold(folded);
   steps_->Fold(folded);
   rows_->setContentsMargins(16, folded ? 8 : 12, 16, folded ? 8 : 16);
-  rows_->setSpacing(folded ? 4 : 16);
+  for (QBoxLayout* column : {rows_, ending_})
+    column->setSpacing(folded ? 4 : 16);
   const int columnWidth = TextWidth(this, 40);
   setMinimumWidth(folded ? 0 : columnWidth);
   setMaximumWidth(folded ? QWIDGETSIZE_MAX : columnWidth);

@@ -45,7 +45,7 @@ class SummaryPanel : public QWidget {
 
   WorkingArmy& work_;
   Bindings bindings_;
-  QBoxLayout *rows_, *upper_, *lower_;
+  QBoxLayout *rows_, *upper_, *lower_, *ending_;
   QLabel *name_, *base_, *commandLeft_;
   BudgetView armyPoints_, commandPoints_;
   LimitsFrame* limits_;
