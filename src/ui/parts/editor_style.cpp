@@ -126,6 +126,14 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
   QProxyStyle::drawControl(element, &cut, painter, widget);
 }
 
+int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
+  // What scrolls covers all but its frame, which must have room for the focus.
+  const bool scrolls = widget != nullptr && widget->inherits("QAbstractScrollArea");
+  if (metric == PM_DefaultFrameWidth && scrolls) return 2;
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   switch (element) {

@@ -35,8 +35,13 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
   }
   painter.setBrush(fill);
   painter.setPen(apart ? QPen(BorderColour()) : QPen(Qt::NoPen));
-  if (hasFocus()) painter.setPen(QPen(isChecked() ? TextColour() : AccentColour(), 2));
+  const bool ring = hasFocus() && isChecked();
+  if (hasFocus() && !ring) painter.setPen(QPen(AccentColour(), 2));
   painter.drawRoundedRect(area, 5, 5);
+  if (ring) {  // around the accent nothing would be seen
+    painter.setPen(QPen(Qt::white, 2));
+    painter.drawRoundedRect(area.adjusted(3, 3, -3, -3), 3, 3);
+  }
   painter.setPen(isChecked() ? Qt::white : TextColour());
   painter.drawText(
       area.adjusted(apart ? 0 : fontMetrics().height(), 0, 0, 0),
