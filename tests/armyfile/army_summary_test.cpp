@@ -42,14 +42,17 @@ TEST_F(Summary, ListsAllThatIsMissingAndNeverFails) {
   NewArmy("Strict Army");
   const std::string leader = Joined("Please select a Leader", static_cast<int>(Panel::Command));
   EXPECT_EQ(Missing(), (Lines{"You must buy at least 1 units of type HI|0", leader}));
+  EXPECT_EQ(Joined(Points(), Summarize(Work).Deck), "0|100|100 0|200|200 |");
   Army.BaseUnits[1] = ParseIdentity("HI,,4,4,");
   Army.BaseUnits[2] = ParseIdentity("HI,Vet,4,4,");
-  Army.BaseUnits[3] = ParseIdentity("SK,,4,4,");
-  Army.TotUnits = 3;
-  for (const int row : {1, 2, 3})
-    Army.BaseUnits[row].Bought = row;
+  Army.BaseUnits[3] = ParseIdentity("HI,Rec,4,4,");
+  Army.BaseUnits[4] = ParseIdentity("SK,,4,4,");
+  Army.TotUnits = 4;
+  for (const int row : {1, 2, 3, 4})
+    Army.BaseUnits[row].Bought = row == 3 ? -1 : row;
   const LimitSummary limit = Summarize(Work).Limits.at(0);
-  EXPECT_EQ(Joined(limit.Have, limit.Met, limit.Counts), "1|1|Counts: HI 1\nDoesn't: HI[Vet] 2");
+  EXPECT_EQ(Joined(limit.Have, limit.Met, limit.Counts),
+            "1|1|Counts: HI 1\nDoesn't: HI[Rec] 0, HI[Vet] 2");
   EXPECT_EQ(Missing(), Lines{leader});
 
   Army.Units.TypeLimit[0].Tag = Army.Command.SpecBuy[0].Tag = "11 of them";

@@ -16,6 +16,7 @@ ArmyPicker::ArmyPicker(ListBox& armies, Bindings& bindings, QWidget* parent)
       list_(new EntryList("ArmyList", this)),
       count_(NewLabel("", "", this)) {
   search_->setPlaceholderText("Search");
+  search_->setAccessibleName("Search");
   search_->setClearButtonEnabled(true);
   search_->installEventFilter(this);
   list_->setUniformItemSizes(true);
