@@ -86,10 +86,13 @@ void MainForm::Refresh() {
 void MainForm::ShowFront() {
   const auto front = static_cast<std::size_t>(session_.Work.Army.EditFrame.Front);
   // A panel is laid out when it first comes to the front: all of them would hold up the start.
-  if (views_.at(front)->widget() == nullptr) views_[front]->setWidget(panels_[front]);
-  if (editFrame_->currentWidget() == views_[front]) return;
-  editFrame_->setCurrentWidget(views_[front]);
+  QScrollArea* view = views_.at(front);
+  if (view->widget() == nullptr) view->setWidget(panels_[front]);
+  if (editFrame_->currentWidget() == view) return;
+  // Before the panel is shown, which would give the focus back to the box that had it last, to be
+  // checked when it is left again.
   panels_[front]->FocusFirst();
+  editFrame_->setCurrentWidget(view);
 }
 
 void MainForm::keyPressEvent(QKeyEvent* event) {

@@ -122,7 +122,10 @@ TEST_F(EntryGuardTest, EscapeTakesAnEntryBackOrLeavesTheBox) {
   Type("3");
   Press(Qt::Key_Escape);
   EXPECT_EQ(Work.Army.Units.Buy[1].Text, "2");
-  Click("ResetArmy", "ShowDetailBtn", "FromData");  // which is refused as it is
+  Press(Qt::Key_R, Qt::AltModifier);  // empties the box that has the focus
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Work.Army.Units.Buy[1].Text, "");
+  Click("ShowDetailBtn", "FromData");  // which is refused as it is
   Press(Qt::Key_Escape);
   EXPECT_TRUE(left());
   Enter("ArmyDesc", "In ambush");

@@ -26,7 +26,7 @@ void PanelWidget::FocusFirst() {
     const auto* option = qobject_cast<const QAbstractButton*>(next);
     QButtonGroup* group = option != nullptr ? option->group() : nullptr;
     QWidget* ticked = group != nullptr ? group->checkedButton() : nullptr;
-    (ticked != nullptr ? ticked : next)->setFocus(Qt::TabFocusReason);
+    (ticked != nullptr ? ticked : next)->setFocus();
     return;
   }
 }

@@ -58,6 +58,13 @@ void EntryGuard::Watch(QWidget* box, const std::function<bool()>& refused, std::
   connect(box, &QObject::destroyed, this, [this](QObject* gone) { checks_.remove(gone); });
 }
 
+void EntryGuard::Follow(const std::function<void()>& operation) {
+  const QPointer<QLineEdit> box = entry_.Box;
+  const QString text = box ? box->text() : "";
+  operation();
+  if (!checking_ && box && box == entry_.Box && box->text() != text) Remember(box);
+}
+
 QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
   QWidget* focus = window != nullptr ? window->focusWidget() : nullptr;
   return checks_.contains(focus) ? focus : nullptr;

@@ -28,6 +28,10 @@ class EntryGuard : public QObject {
   /// even then, for Escape to put back.
   void Watch(QWidget* box, const std::function<bool()>& refused, std::string* taken = nullptr);
 
+  /// Runs an operation. What it writes into the box that has the focus was not typed: Escape goes
+  /// back to that.
+  void Follow(const std::function<void()>& operation);
+
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 

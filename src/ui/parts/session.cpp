@@ -16,10 +16,12 @@ void Session::OnChange(QObject* view, std::function<void()> refresh) {
 bool Session::Run(const std::function<void()>& operation) {
   if (error_) return false;
   try {
-    operation();
-    for (const auto& [view, refresh] : views_) {
-      if (view) refresh();
-    }
+    guard_.Follow([&] {
+      operation();
+      for (const auto& [view, refresh] : views_) {
+        if (view) refresh();
+      }
+    });
     return true;
   } catch (const std::exception& error) {
     if (!error_) {
