@@ -1,5 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
+#include <QComboBox>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
 #include <QTimer>
 
 #include "ui_fixture.h"
@@ -58,10 +62,13 @@ TEST_F(WindowTest, TheSummaryLeadsToWhatIsMissing) {
   EXPECT_EQ(Texts("CommandLeft", "SummaryLeader"),
             (QStringList{"Command left: 200 of 250", "Hanno of Bruttium"}));
   EXPECT_EQ(panel(0), Panel::Management);
+  Enter("ArmyName", "Mago");
+  EXPECT_EQ(Text("SummaryName"), "Mago");
 
   Form.resize(1000, 700);
   Settle();
   EXPECT_FALSE(Sees("StillMissing"));
+  EXPECT_EQ(Text("SummaryInShort"), "Hanno of Bruttium, 1 FLANK, 15 cards, 14 units (93%)");
   Click("ShowUnitsBtn");
   Fill({{"Buy(0)", "0"}});
   QTimer::singleShot(50, [this] {
@@ -103,9 +110,33 @@ TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
   Click("ShowSaveFrame");
   Press(Qt::Key_F, Qt::AltModifier);
   EXPECT_EQ(Form.focusWidget()->objectName(), "ArmyFileName");
+  // A box that a reset emptied is not checked when its panel comes back.
+  Click("ShowDetailBtn");
+  Fill({{"FromData", "0"}});
+  Click("FromData");
+  for (const Qt::Key letter : {Qt::Key_U, Qt::Key_R})
+    Press(letter, Qt::AltModifier);
+  EXPECT_EQ(front(Qt::Key_3), Panel::Detail);
+  EXPECT_EQ(Form.focusWidget()->objectName(), "ArmyDesc");
   Press(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(Form.isVisible());
   Form.show();
+}
+
+TEST_F(WindowTest, TheWheelOverAListScrollsThePanel) {
+  LoadTrebia();
+  Form.resize(1000, 420);
+  Settle();
+  auto& list = Find<QComboBox>("ImageName(0)");
+  const auto* panel = qobject_cast<QScrollArea*>(Find("EditFrame(0)").parent()->parent());
+  const QPoint middle = list.rect().center();
+  const int before = list.currentIndex();
+  QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                    Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&wheel);  // as from a hand
+  qApp->notify(&list, &wheel);
+  EXPECT_EQ(list.currentIndex(), before);
+  EXPECT_GT(panel->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(WindowTest, QuantityBoxesTakeNoKeyBeyond16Bits) {

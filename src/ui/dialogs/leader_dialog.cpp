@@ -13,8 +13,8 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
     : Dialog("LeaderMgmtForm", "LeaderMgmt", session, parent) {
   auto* name = NewTextBox("LeaderName", this);
   name->setMinimumWidth(TextWidth(name, 28));
-  auto* initiative = Named(new QComboBox(this), "InitiativeBox");
-  auto* command = Named(new QComboBox(this), "CommandBox");
+  auto* initiative = NewDropDown("InitiativeBox", this);
+  auto* command = NewDropDown("CommandBox", this);
   auto* cost = NewNumberLabel("leaderCost", this);
   cost->setFrameStyle(QFrame::StyledPanel);
   cost->setAutoFillBackground(true);

@@ -22,7 +22,7 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
   auto* lists = new QFormLayout(frame);
   lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   const auto addList = [&](const char* name, const char* caption, ListBox& control) {
-    auto* list = Named(new QComboBox(frame), name);
+    auto* list = NewDropDown(name, frame);
     list->setMinimumContentsLength(6);
     lists->addRow(caption, bindings_.Add(list, control));
   };

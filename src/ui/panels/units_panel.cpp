@@ -176,12 +176,11 @@ void UnitsPanelWidget::AddQuantity(int line) {
 void UnitsPanelWidget::AddPictures(int line) {
   UnitsPanel& units = army_.Units;
   QWidget* grid = grid_->parentWidget();
-  auto* pictures = Named(new QComboBox(grid), ElementName("ImageName", line));
+  auto* pictures = NewDropDown(ElementName("ImageName", line), grid);
   // Its width is the column's; a policy that measures entries would cost at the start.
   pictures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   pictures->setMinimumWidth(TextWidth(pictures, 12));
   pictures->setMaximumWidth(TextWidth(pictures, 36));
-  pictures->setFocusPolicy(Qt::StrongFocus);
   lines_.back().Pictures = pictures;
   grid_->addWidget(bindings_.Add(pictures, units.ImageName[line]), line + 1, image);
   session_.Connect(pictures, [this, line] { ImageName_Click(army_, line); });

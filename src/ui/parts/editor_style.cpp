@@ -94,14 +94,20 @@ void DrawMark(const QStyleOption& option, QPainter* painter, bool round) {
   }
 }
 
-}  // namespace
-
-int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                           QStyleHintReturn* answer) const {
-  // Over a drop-down list the wheel scrolls the panel that the list stands on.
-  if (hint == SH_ComboBox_AllowWheelScrolling) return 0;
-  return QProxyStyle::styleHint(hint, option, widget, answer);
+/// The text of an option as its place allows: a long name is cut, the price behind it stays.
+QString CutText(const QStyleOptionButton& option) {
+  const auto width = [&](const QString& text) {
+    return option.fontMetrics.size(Qt::TextShowMnemonic, text).width();
+  };
+  const QString& text = option.text;
+  if (width(text) <= option.rect.width()) return text;
+  const qsizetype price = text.lastIndexOf(' ', text.lastIndexOf(" [") - 1);
+  const QString behind = price > 0 ? text.mid(price) : "";
+  const int room = option.rect.width() - width(behind);
+  return option.fontMetrics.elidedText(text.chopped(behind.size()), Qt::ElideRight, room) + behind;
 }
+
+}  // namespace
 
 QSize EditorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                     const QSize& contents, const QWidget* widget) const {
@@ -119,10 +125,8 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
     QProxyStyle::drawControl(element, option, painter, widget);
     return;
   }
-  // Of a long leader's name the price behind it stays.
   QStyleOptionButton cut = *button;
-  cut.text =
-      cut.fontMetrics.elidedText(cut.text, Qt::ElideMiddle, cut.rect.width(), Qt::TextShowMnemonic);
+  cut.text = CutText(cut);
   QProxyStyle::drawControl(element, &cut, painter, widget);
 }
 
@@ -175,7 +179,9 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     return;
   }
   DrawBox(*option, painter, ButtonFill(*option));
-  QStyleOption arrow = *option;
+  QStyleOption arrow;
+  arrow.state = option->state;
+  arrow.palette = option->palette;
   arrow.rect = subControlRect(control, option, SC_ComboBoxArrow, widget);
   QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
 }

@@ -11,8 +11,6 @@ class EditorStyle : public QProxyStyle {
  public:
   EditorStyle() : QProxyStyle("Fusion") {}
 
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -5,12 +5,14 @@
 #include <utility>
 
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QTextCursor>
 #include <QValidator>
+#include <QWheelEvent>
 
 #include "base/ansi.h"
 #include "base/errors.h"
@@ -81,6 +83,20 @@ class DescriptionBox : public QPlainTextEdit {
   }
 
   int lineBreakSize_;
+};
+
+class DropDown : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) {
+      QComboBox::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
 };
 
 /// Acts at a double click on the empty part of a list, of which the list itself says nothing.
@@ -199,6 +215,12 @@ QLineEdit* NewFileNameBox(const QString& name, QWidget* parent) {
   auto* box = NewTextBox(name, parent);
   box->setValidator(&validator);
   return box;
+}
+
+QComboBox* NewDropDown(const QString& name, QWidget* parent) {
+  auto* list = Named(new DropDown(parent), name);
+  list->setFocusPolicy(Qt::StrongFocus);  // the wheel is no way to come to it
+  return list;
 }
 
 void OnDoubleClick(QListWidget* list, const std::function<void()>& act) {

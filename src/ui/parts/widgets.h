@@ -12,6 +12,7 @@
 #include <QPushButton>
 
 class QButtonGroup;
+class QComboBox;
 class QLayout;
 class QListWidget;
 
@@ -65,6 +66,9 @@ QLineEdit* NewFileNameBox(const QString& name, QWidget* parent);
 /// A box of several lines that stops at what one line of a file can hold, when each of its line
 /// breaks takes `lineBreakSize` bytes there.
 QPlainTextEdit* NewDescriptionBox(const QString& name, int lineBreakSize, QWidget* parent);
+
+/// A drop-down list. Without the focus it leaves the mouse wheel to what it stands on.
+QComboBox* NewDropDown(const QString& name, QWidget* parent);
 
 /// Runs `act` at a double click in the list, on its empty part too.
 void OnDoubleClick(QListWidget* list, const std::function<void()>& act);
