@@ -63,10 +63,11 @@ std::string BaseArmyWarning(const ArmyState& state) {
 
 std::string FolderWarning(const ArmyState& state, const Disk& disk) {
   const std::string& name = state.Management.ArmyFileName.Text;
-  const fs::path folder = ArmyPath(disk.ModuleFolder(state.BrakkaMode), name).parent_path();
+  const fs::path folder = PathIn("", name).parent_path();
+  const fs::path place = ArmyPath(disk.ModuleFolder(state.BrakkaMode), name).parent_path();
   std::error_code error;
-  if (fs::is_directory(folder, error)) return "";
-  return "There is no folder " + AnsiFromPath(folder.lexically_relative(disk.ProgramFolder)) + ".";
+  if (folder.empty() || fs::is_directory(place, error)) return "";
+  return "There is no folder " + AnsiFromPath(folder) + ".";
 }
 
 std::string LengthWarning(std::string_view text, std::size_t lineBreakSize) {

@@ -25,7 +25,7 @@ std::optional<Deck> CountDeck(const ArmyState& state) {
 }
 
 std::string PrintDeckInfo(const ArmyState& state) {
-  const std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
+  std::string title = "Velmora Tarnwick ver " + VersionText(state.EditorVersion) + " ";
   const std::optional<Deck> deck = CountDeck(state);
   if (!deck) return title;
   return title + "[ #cards: " + NumberText(deck->Cards) + " units: " + NumberText(deck->Units) +

@@ -35,6 +35,8 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
   EXPECT_EQ(told(),
             "Delete removes saved.army from the base game's folder"
             "Terrain is saved into Tyre.army of the base game's folder and not read back.");
+  file = "gaul/Tyre";
+  EXPECT_EQ(FolderWarning(desk.Army, desk.Store), "There is no folder gaul.");
   std::filesystem::remove(desk.Folder / "saved.army");
   file = "";
   EXPECT_EQ(told(),

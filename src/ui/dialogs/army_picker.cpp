@@ -14,13 +14,12 @@ ArmyPicker::ArmyPicker(ListBox& armies, Bindings& bindings, QWidget* parent)
     : QWidget(parent),
       search_(Named(new QLineEdit(this), "ArmySearch")),
       list_(new EntryList("ArmyList", this)),
-      count_(NewLabel("", "", this)) {
+      count_(NewHint("", "", this)) {
   search_->setPlaceholderText("Search");
   search_->setAccessibleName("Search");
   search_->setClearButtonEnabled(true);
   search_->installEventFilter(this);
   list_->setUniformItemSizes(true);
-  count_->setForegroundRole(QPalette::PlaceholderText);
   count_->setMinimumHeight(fontMetrics().height());  // the list keeps its size
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -57,6 +57,12 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
   for (QAbstractButton* leader : leaders->buttons())
     leader->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   new PricedOptions(leaders);
+  bindings_.Add([leaders] {
+    for (QAbstractButton* leader : leaders->buttons()) {
+      const bool cut = leader->sizeHint().width() > leader->width();
+      leader->setToolTip(cut ? leader->text().replace("&&", "&") : "");
+    }
+  });
   auto* define = Named(new QPushButton(StandardIcon(), "&Add a new Leader", frame), "LeaderBtn");
   define->setToolTip("Add New Leader");
   lastControl_ = define;

@@ -14,8 +14,8 @@ namespace tarnwick {
 namespace {
 
 constexpr int lineCount = 7;
-constexpr int foldedLines = 3;  ///< beside each other
-constexpr int gap = 6;          ///< the grid's columns of a limit, and one between two
+constexpr int foldedLines = 3;   ///< beside each other
+constexpr int limitColumns = 6;  ///< of the grid, with the one between two limits
 
 /// The columns of a limit.
 enum Column { met, type, have, slash, least };
@@ -32,7 +32,7 @@ LimitsFrame::LimitsFrame(const UnitsPanel& units, QWidget* parent)
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setVerticalSpacing(2);
   title_ = NewHeading("", "Limits", this);
-  grid_->addWidget(title_, 0, 0, 1, gap);
+  grid_->addWidget(title_, 0, 0, 1, limitColumns);
   headings_ = {NewHint("Label2", "Type", this), NewHint("", "Have", this),
                NewHint("Label3", "Min", this)};
   grid_->addWidget(headings_[0], 1, type);
@@ -59,14 +59,14 @@ void LimitsFrame::Fold(bool folded) {
     heading->setVisible(!folded);
   for (int j = 0; j < lineCount; ++j) {
     const int row = 2 + (folded ? j / foldedLines : j);
-    int column = folded ? j % foldedLines * gap : 0;
+    int column = folded ? j % foldedLines * limitColumns : 0;
     for (QWidget* widget : lines_[static_cast<std::size_t>(j)].Widgets())
       grid_->addWidget(widget, row, column++);
   }
   grid_->setColumnStretch(type, folded ? 0 : 1);
   for (int j = 1; j < foldedLines; ++j)
-    grid_->setColumnMinimumWidth(j * gap - 1, folded ? 16 : 0);
-  grid_->setColumnStretch(foldedLines * gap, folded ? 1 : 0);
+    grid_->setColumnMinimumWidth(j * limitColumns - 1, folded ? 16 : 0);
+  grid_->setColumnStretch(foldedLines * limitColumns, folded ? 1 : 0);
 }
 
 void LimitsFrame::Show(const ArmySummary& summary) {

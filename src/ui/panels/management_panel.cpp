@@ -34,8 +34,7 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   auto* frame = NewFrame("", "Army", this);
   auto* name = bindings_.Add(NewTextBox("ArmyName", frame), army_.Management.ArmyName);
   auto* file = bindings_.Add(NewFileNameBox("ArmyFileName", frame), army_.Management.ArmyFileName);
-  auto* fileHint = NewLabel("NewArmyFile", "", frame);
-  fileHint->setForegroundRole(QPalette::PlaceholderText);
+  auto* fileHint = NewHint("NewArmyFile", "", frame);
   name->setMinimumWidth(TextWidth(name, 48));
 
   auto* layout = new QGridLayout(frame);
@@ -55,9 +54,10 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   bindings_.Add([fileHint, this] {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
   });
-  const auto warn = [this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); };
-  bindings_.Add(warn);
-  connect(file, &QLineEdit::textEdited, warning, warn);
+  bindings_.Add([this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); });
+  // What is shown elsewhere follows the names as they are typed.
+  for (QLineEdit* box : {name, file})
+    session_.Connect(box, &QLineEdit::textEdited, [] {});
   return frame;
 }
 

@@ -98,8 +98,7 @@ void StepsFrame::resizeEvent(QResizeEvent* event) {
 }
 
 void StepsFrame::Open(int line) {
-  const auto [text, panel] = steps_.Lines.at(static_cast<std::size_t>(line));
-  open_(panel);
+  open_(steps_.Lines.at(static_cast<std::size_t>(line)).second);
 }
 
 }  // namespace tarnwick

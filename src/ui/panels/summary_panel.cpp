@@ -62,7 +62,8 @@ void SummaryPanel::AddNames() {
   base_ = NewHint("SummaryBase", "", this);
   auto* names = new QVBoxLayout;
   names->setSpacing(0);
-  for (QLabel* label : {name_, base_}) {
+  inShort_ = NewHint("SummaryInShort", "", this);
+  for (QLabel* label : {name_, base_, inShort_}) {
     // Long names are cut; they must not make the column wider.
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     names->addWidget(label);
@@ -125,6 +126,7 @@ void SummaryPanel::Fold(bool folded) {
   }
   for (QWidget* widget : columnOnly_)
     widget->setVisible(!folded);
+  inShort_->setVisible(folded);
   limits_->Fold(folded);
   steps_->Fold(folded);
   rows_->setContentsMargins(16, folded ? 8 : 12, 16, folded ? 8 : 16);
@@ -152,6 +154,8 @@ void SummaryPanel::Refresh() {
     ShowTextColour(heading, begun ? TextColour() : HintColour());
   cards_->setText(TextOr("none", summary.Cards));
   deck_->setText(TextOr("none", summary.Deck));
+  inShort_->setText(QStringList{leader_->text(), cards_->text(), deck_->text()}.join(", "));
+  inShort_->setToolTip(base_->text() + "\n" + inShort_->text());
   limits_->Show(summary);
   steps_->Show(summary);
 }

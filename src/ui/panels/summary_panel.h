@@ -46,7 +46,7 @@ class SummaryPanel : public QWidget {
   WorkingArmy& work_;
   Bindings bindings_;
   QBoxLayout *rows_, *upper_, *lower_, *ending_;
-  QLabel *name_, *base_, *commandLeft_;
+  QLabel *name_, *base_, *inShort_, *commandLeft_;  ///< in short: what only the strip says
   BudgetView armyPoints_, commandPoints_;
   LimitsFrame* limits_;
   QLabel *leader_, *cards_, *deck_;

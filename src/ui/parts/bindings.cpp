@@ -15,6 +15,12 @@ void ShowVisible(QWidget* widget, bool visible) {
   if (widget->isHidden() == visible) widget->setVisible(visible);
 }
 
+/// Leaves other colours that a label has alone.
+void ShowMounted(QLabel* widget, bool mounted) {
+  const bool shown = widget->palette().color(widget->foregroundRole()) == MountedColour();
+  if (shown != mounted) ShowTextColour(widget, mounted ? MountedColour() : TextColour());
+}
+
 void ShowChecked(QAbstractButton* button, bool checked) {
   if (button->isChecked() != checked) button->setChecked(checked);
 }
@@ -58,7 +64,7 @@ void Bindings::Tie(QLabel* widget, const Label& control) {
   widget->setTextFormat(Qt::PlainText);
   Add([widget, &control] {
     ShowCaption(widget, ToQt(control.Caption));
-    ShowTextColour(widget, control.ForeColor == Colour::LightBlue ? MountedColour() : TextColour());
+    ShowMounted(widget, control.ForeColor == Colour::LightBlue);
     ShowVisible(widget, control.Visible);
   });
 }

@@ -43,9 +43,9 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(area.adjusted(3, 3, -3, -3), 3, 3);
   }
   painter.setPen(isChecked() ? Qt::white : TextColour());
-  painter.drawText(
-      area.adjusted(apart ? 0 : fontMetrics().height(), 0, 0, 0),
-      (apart ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+  const int across = apart ? Qt::AlignHCenter : Qt::AlignLeft;
+  painter.drawText(area.adjusted(apart ? 0 : fontMetrics().height(), 0, 0, 0),
+                   across | int{Qt::AlignVCenter} | int{Qt::TextShowMnemonic}, text());
 }
 
 }  // namespace tarnwick

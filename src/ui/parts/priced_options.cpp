@@ -49,10 +49,6 @@ bool PricedOptions::TakesKey(QAbstractButton* option, const QKeyEvent& key) {
     case Qt::Key_Right:
       Move(option, 1);
       return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      option->click();
-      return true;
     default:
       return false;
   }

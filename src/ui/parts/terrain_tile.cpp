@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QDrag>
 #include <QDragEnterEvent>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 
@@ -50,14 +49,6 @@ void TerrainTile::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(QPen(border, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   const int inset = width / 2;
   painter.drawRect(rect().adjusted(inset, inset, -inset - 1, -inset - 1));
-}
-
-void TerrainTile::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    click();
-  } else {
-    QAbstractButton::keyPressEvent(event);
-  }
 }
 
 void TerrainTile::mousePressEvent(QMouseEvent* event) {
