@@ -130,7 +130,6 @@ void SetupPanelWidget::AddPlace(int place, const QString& spoken, QGridLayout* l
   auto* number = NewHint("", QString::number(place + 1), zone);
   auto* assign = Named(new QPushButton("<->", zone), ElementName("assignBtn", place));
   assign->setFixedWidth(TextWidth(assign, 6));
-  assign->setToolTip("Deploys the selected unit here, or takes the unit off this place");
   auto* thumbnail = new Thumbnail(zone);
   thumbnail->setFixedSize(thumbnailSize);
   thumbnails_.push_back(thumbnail);
@@ -145,9 +144,7 @@ void SetupPanelWidget::AddPlace(int place, const QString& spoken, QGridLayout* l
   layout->addWidget(bindings_.Add(unit, field_.Setup.unit[place]), row, 4);
 
   assign->setAccessibleName("Deploy to " + spoken);
-  bindings_.Add([unit, spoken] {
-    ShowSpokenName(unit, spoken + ": " + (unit->text().isEmpty() ? "empty" : unit->text()));
-  });
+  bindings_.Add([this, spoken, unit, assign] { ShowPlace(spoken, unit, assign); });
 
   session_.Connect(assign, [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   const auto deploy = [this, place](int entry) { Deploy(entry, place); };
@@ -156,6 +153,16 @@ void SetupPanelWidget::AddPlace(int place, const QString& spoken, QGridLayout* l
   };
   new DropPlace(assign, deploy, mark);
   new DropPlace(unit, deploy, mark);
+}
+
+void SetupPanelWidget::ShowPlace(const QString& spoken, QLabel* unit, QPushButton* assign) const {
+  const QString here = unit->text();
+  const QString selected = ToQt(field_.Setup.unitList.Text());
+  ShowSpokenName(unit, spoken + ": " + (here.isEmpty() ? "empty" : here));
+  QString tip = "Select a unit first";
+  if (!here.isEmpty()) tip = here + " goes back to the list";
+  if (!selected.isEmpty()) tip = selected + " goes to " + spoken;
+  if (assign->toolTip() != tip) assign->setToolTip(tip);
 }
 
 void SetupPanelWidget::Refresh() {

@@ -9,6 +9,7 @@
 class QGridLayout;
 class QKeyEvent;
 class QLayout;
+class QPushButton;
 
 namespace tarnwick {
 
@@ -31,6 +32,8 @@ class SetupPanelWidget : public PanelWidget {
   QLayout* NewUnitList(QWidget* parent);
   QWidget* NewZone(int index, const char* caption, int firstPlace, int lastPlace, QWidget* parent);
   void AddPlace(int place, const QString& spoken, QGridLayout* layout, int row, QWidget* zone);
+  /// Says what holds the place, and what its button does next.
+  void ShowPlace(const QString& spoken, QLabel* unit, QPushButton* assign) const;
   bool DeployByKey(const QKeyEvent& key);
   /// Shows the pictures of the units.
   void ShowThumbnails();

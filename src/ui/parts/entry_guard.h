@@ -19,7 +19,7 @@ namespace tarnwick {
 /// by Tab or Enter, by a click elsewhere, by a shortcut. A refused entry keeps the focus, with its
 /// text selected, and what the user was about to do does not happen. Enter goes on to the next
 /// box that is checked. Escape takes an entry back, or leaves a box where there is none, without a
-/// check; a dialog it closes.
+/// check; a dialog it closes. A letter with Alt presses its button as soon as the entry is checked.
 class EntryGuard : public QObject {
  public:
   explicit EntryGuard(QObject* parent = nullptr);
