@@ -85,14 +85,25 @@ void MainForm::Refresh() {
 
 void MainForm::ShowFront() {
   const auto front = static_cast<std::size_t>(session_.Work.Army.EditFrame.Front);
-  // A panel is laid out when it first comes to the front: all of them would hold up the start.
-  QScrollArea* view = views_.at(front);
-  if (view->widget() == nullptr) view->setWidget(panels_[front]);
+  PanelWidget* panel = panels_.at(front);
+  QScrollArea*& view = views_[front];
+  if (view == nullptr) view = NewView(panel);
   if (editFrame_->currentWidget() == view) return;
   // Before the panel is shown, which would give the focus back to the box that had it last, to be
   // checked when it is left again.
-  panels_[front]->FocusFirst();
+  panel->FocusFirst();
   editFrame_->setCurrentWidget(view);
+}
+
+QScrollArea* MainForm::NewView(PanelWidget* panel) {
+  auto* view = new QScrollArea(this);
+  view->setFrameShape(QFrame::NoFrame);
+  view->setFocusPolicy(Qt::NoFocus);
+  view->setWidgetResizable(true);
+  view->setWidget(panel);
+  panel->show();
+  editFrame_->addWidget(view);
+  return view;
 }
 
 void MainForm::keyPressEvent(QKeyEvent* event) {
@@ -200,15 +211,12 @@ QWidget* MainForm::NewPanelStack() {
              new DetailPanelWidget(session_),     new TerrainPanelWidget(session_),
              new ManagementPanelWidget(session_), new MonsterPanelWidget(session_),
              new SetupPanelWidget(session_)};
+  // A panel is laid out when it first comes to the front: all of them would hold up the start.
   for (PanelWidget* panel : panels_) {
-    auto* scroll = new QScrollArea(stack);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidgetResizable(true);
-    panel->setParent(scroll->viewport());
-    views_.push_back(scroll);
-    editFrame_->addWidget(scroll);
+    panel->setParent(stack);
+    panel->hide();
   }
+  views_.resize(panels_.size());
   return stack;
 }
 

@@ -45,6 +45,8 @@ class MainForm : public QWidget {
   QWidget* NewPanelStack();
   /// Shows the panel in front.
   void ShowFront();
+  /// What a panel scrolls in, on the stack.
+  QScrollArea* NewView(PanelWidget* panel);
   void AddShortcuts();
   void Open(Panel panel);
   void Step(int by);
@@ -52,7 +54,7 @@ class MainForm : public QWidget {
   Session& session_;
   std::vector<std::pair<Panel, PanelButton*>> panelButtons_;
   std::vector<PanelWidget*> panels_;
-  std::vector<QScrollArea*> views_;  ///< of the panels
+  std::vector<QScrollArea*> views_;  ///< of the panels that were in front
   QStackedLayout* editFrame_ = nullptr;
   QBoxLayout* contents_;  ///< panels and summary
   SummaryPanel* summary_;

@@ -36,7 +36,9 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
   const auto choose = [this](const QListWidgetItem* item) { Open(list_->row(item)); };
   connect(list_, &QListWidget::itemClicked, this, choose);
   connect(list_, &QListWidget::itemActivated, this, choose);
+}
 
+void StepsFrame::AddMenu() {
   auto* menu = new QMenu(button_);
   button_->setMenu(menu);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] {
@@ -47,6 +49,7 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
 }
 
 void StepsFrame::Fold(bool folded) {
+  if (folded && button_->menu() == nullptr) AddMenu();
   heading_->setVisible(!folded);
   list_->setVisible(!folded);
   button_->setVisible(folded);

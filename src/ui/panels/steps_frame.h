@@ -36,6 +36,7 @@ class StepsFrame : public QWidget {
   static Steps StepsOf(const ArmySummary& summary);
   /// Makes the list as high as its lines.
   void FitList();
+  void AddMenu();
   void Open(int line);
 
   std::function<void(Panel)> open_;
