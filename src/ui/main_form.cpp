@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -36,6 +37,8 @@ namespace {
 /// A narrower window has the summary in a strip below the panels.
 constexpr int narrow = 1200;
 
+constexpr QSize usualSize(1280, 800);
+
 /// Keys, and the buttons that they press one after the other.
 constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
     {"Ctrl+1", {"ShowUnitsBtn"}},
@@ -62,6 +65,8 @@ MainForm::MainForm(Session& session) : session_(session) {
   contents_->addWidget(summary_);
   layout->addLayout(contents_, 1);
   AddShortcuts();
+  // Left to itself a window takes two thirds of the screen at most.
+  resize(usualSize.boundedTo(screen()->availableSize()));
   session_.OnChange(this, [this] { Refresh(); });
 }
 
