@@ -184,9 +184,9 @@ void SetupPanelWidget::ShowThumbnails() {
     const auto found = images.find(unit);
     return found != images.end() ? found->second : Int16(0);
   };
-  const auto& entries = field_.Setup.unitList.Entries;
+  // By what the list shows: the window may come back while an operation is half done.
   for (int i = 0; i < units_->count(); ++i)
-    ShowPicture(units_->item(i), army_, disk_, imageOf(entries[static_cast<std::size_t>(i)].Text));
+    ShowPicture(units_->item(i), army_, disk_, imageOf(FromQt(units_->item(i)->text())));
   for (int place = 0; auto* thumbnail : thumbnails_)
     thumbnail->Show(army_, disk_, imageOf(field_.Setup.unit[place++].Caption));
 }
