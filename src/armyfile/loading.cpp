@@ -30,11 +30,11 @@ class ArmyLoader {
   ArmyLoader(WorkingArmy& work, Disk& disk, Host& host, std::filesystem::path file)
       : work_(work), disk_(disk), host_(host), file_(std::move(file)) {}
 
-  void Load() {
+  bool Load() {
     ReadHeader();
     const bool complete = LoadCatalogs() && LoadUnits();
     ShowSelectUnits(army_, disk_);  // what there is, when the loading ends here
-    if (!complete) return;
+    if (!complete) return false;
     army_.PointsLeft -= army_.PointsSpent;
     LoadLeader();
     LoadCards();
@@ -47,6 +47,7 @@ class ArmyLoader {
     // Setups are kept in the program folder whatever the module.
     LoadSetupsFromArmy(work_.Field, disk_, ArmyPath(disk_.ProgramFolder, header_.ArmyFile));
     ShowPanel(army_, Panel::Units);
+    return true;
   }
 
  private:
@@ -178,18 +179,19 @@ class ArmyLoader {
 
 }  // namespace
 
-void LoadBtn_Click(WorkingArmy& work, Disk& disk, Host& host) {
+bool LoadBtn_Click(WorkingArmy& work, Disk& disk, Host& host) {
   ResetArmyData(work, disk);
   TakeModule(work.Army);
-  LoadArmy(work, disk, host);
+  return LoadArmy(work, disk, host);
 }
 
-void LoadArmy(WorkingArmy& work, Disk& disk, Host& host) {
+bool LoadArmy(WorkingArmy& work, Disk& disk, Host& host) {
   host.ShowArmyListForm();
   const std::string& name = work.Header.ArmyFile;
-  if (name.empty()) return;
+  if (name.empty()) return false;
   work.Army.Management.ArmyFileName.Text = name;
-  ArmyLoader(work, disk, host, ArmyPath(disk.ModuleFolder(work.Army.BrakkaMode), name)).Load();
+  const auto file = ArmyPath(disk.ModuleFolder(work.Army.BrakkaMode), name);
+  return ArmyLoader(work, disk, host, file).Load();
 }
 
 }  // namespace tarnwick

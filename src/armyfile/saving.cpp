@@ -121,14 +121,14 @@ std::string ArmyText(const WorkingArmy& work, const std::string& today,
 
 }  // namespace
 
-void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
+bool SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
   const ArmyState& army = work.Army;
   const std::string& name = army.Management.ArmyFileName.Text;
   const auto path = ArmyPath(disk.ModuleFolder(army.BrakkaMode), name);
-  if (!VerifyArmy(army, host, false)) return;
+  if (!VerifyArmy(army, host, false)) return false;
   if (FileExists(path) && !host.Question("Do you want to replace the existing " + name +
                                          std::string(armyEnding) + " file ?")) {
-    return;
+    return false;
   }
   PendingFiles files;
   files.Write(path, ArmyText(work, host.Today(), path));
@@ -138,6 +138,7 @@ void SaveArmy(const WorkingArmy& work, Disk& disk, Host& host) {
   CopySetupsToArmy(disk, files, ArmyPath(disk.ProgramFolder, work.Header.ArmyFile));
   files.Replace(disk.Files);
   host.Message("Army Saved");
+  return true;
 }
 
 }  // namespace tarnwick
