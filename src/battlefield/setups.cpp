@@ -77,6 +77,23 @@ void CopySetupsToArmy(const Disk& disk, PendingFiles& files, const fs::path& arm
   if (!entries.empty()) files.WriteIniStrings(entries, army);
 }
 
+std::optional<std::string> StoredScratch(const Disk& disk) {
+  return disk.Files.Bytes(ScratchFile(disk));
+}
+
+void RestoreScratch(const Disk& disk, const std::optional<std::string>& bytes) {
+  if (bytes == StoredScratch(disk)) return;
+  try {
+    if (bytes) {
+      ReplaceFile(ScratchFile(disk), *bytes, Durability::Scratch);
+    } else {
+      std::error_code ignored;
+      fs::remove(ScratchFile(disk), ignored);
+    }
+  } catch (const FileError&) {  // as with every edit of a setup
+  }
+}
+
 void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number) {
   SetupPanel& panel = field.Setup;
   const auto read = [&](const std::string& key) {

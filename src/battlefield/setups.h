@@ -3,6 +3,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 
 #include "base/host.h"
 #include "base/int16.h"
@@ -22,6 +24,12 @@ void LoadSetupsFromArmy(Battlefield& field, Disk& disk, const std::filesystem::p
 /// Copies the setups that have a description into the army file `army`; without any it is left
 /// alone.
 void CopySetupsToArmy(const Disk& disk, PendingFiles& files, const std::filesystem::path& army);
+
+/// The scratch file as it is; nothing when there is none.
+std::optional<std::string> StoredScratch(const Disk& disk);
+
+/// Puts the scratch file back as it was. A failed write is silent.
+void RestoreScratch(const Disk& disk, const std::optional<std::string>& bytes);
 
 /// Shows setup `number` as the scratch file has it. Nothing is written.
 void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number);

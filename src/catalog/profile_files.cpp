@@ -74,6 +74,12 @@ Int16 ProfileFiles::ReadIniNumber(std::string_view section, std::string_view key
   return LenientInt16(ReadIniString(section, key, file));
 }
 
+std::optional<std::string> ProfileFiles::Bytes(const fs::path& file) const {
+  const KnownFile* known = Known(file);
+  if (known == nullptr) return std::nullopt;
+  return std::string(known->Text.Bytes());
+}
+
 Int16 ProfileFiles::WriteIniString(std::string_view section, std::string_view key,
                                    std::string_view value, const fs::path& file) {
   return WriteIniStrings({{std::string(section), std::string(key), std::string(value)}}, file);

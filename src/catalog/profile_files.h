@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,9 @@ class ProfileFiles {
   /// The same as a number: lenient, rounded to 16 bits. Throws OverflowError.
   Int16 ReadIniNumber(std::string_view section, std::string_view key,
                       const std::filesystem::path& file) const;
+
+  /// A whole file; nothing for one that can't be read.
+  std::optional<std::string> Bytes(const std::filesystem::path& file) const;
 
   /// Sets a key, making section and file as needed. The file is replaced in one step. Returns
   /// non-zero when it was written; an error is no more than a 0.
