@@ -287,7 +287,7 @@ void Tour::Save() {
   driver_.Click("ShowSaveFrame");
   driver_.Click("SaveBtn");
   Expect({"Army Saved"});
-  driver_.CancelNextMessage();
+  driver_.AnswerNext(QMessageBox::Cancel);
   driver_.Press(Qt::Key_S, Qt::ControlModifier);
   Expect({"Do you want to replace the existing Ticinus.army file ?"});
   TakePicture(form_, "saved");

@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -310,7 +309,8 @@ void WindowDriver::CloseDialog() {
 QStringList WindowDriver::TakeMessages() {
   for (; !scripts_.empty(); scripts_.pop_front())
     messages_.append("(no dialog for a script)");
-  if (std::exchange(cancelNext_, false)) messages_.append("(no question to cancel)");
+  for (; !answers_.empty(); answers_.pop_front())
+    messages_.append("(no box to answer)");
   return std::exchange(messages_, {});
 }
 
@@ -326,9 +326,10 @@ void WindowDriver::AnswerModal() {
   if (see_) see_(*modal);
   if (auto* box = qobject_cast<QMessageBox*>(modal)) {
     messages_.append(box->text());
-    QAbstractButton* button = box->button(QMessageBox::Cancel);
-    const bool cancel = button != nullptr && std::exchange(cancelNext_, false);
-    if (!cancel) button = box->button(QMessageBox::Ok);
+    QAbstractButton* button = answers_.empty() ? nullptr : box->button(answers_.front());
+    if (button != nullptr) answers_.pop_front();
+    if (button == nullptr) button = box->button(QMessageBox::Ok);
+    if (button == nullptr) button = box->button(QMessageBox::Cancel);
     busyWith_ = before;
     ClickAt(*button, button->rect().center());
     return;

@@ -6,6 +6,7 @@
 #include <list>
 #include <utility>
 
+#include <QMessageBox>
 #include <QObject>
 #include <QPoint>
 #include <QString>
@@ -91,10 +92,11 @@ class WindowDriver {
   void OnDialog(Script script) { scripts_.push_back(std::move(script)); }
   /// Closes the dialog in front by its window frame.
   void CloseDialog();
-  /// The next question is answered with its Cancel button; all others, and messages, with OK.
-  void CancelNextMessage() { cancelNext_ = true; }
+  /// The next box that has `button` is answered with it; without answers boxes get OK, or else
+  /// Cancel.
+  void AnswerNext(QMessageBox::StandardButton button) { answers_.push_back(button); }
   /// What message boxes have said since the last call, and what went wrong with the answers: a
-  /// dialog without a script or left open by it, a script or a Cancel that nothing asked for.
+  /// dialog without a script or left open by it, a script or an answer that nothing asked for.
   QStringList TakeMessages();
   /// Sees every message box and dialog before it is answered.
   void OnSight(std::function<void(QWidget&)> see) { see_ = std::move(see); }
@@ -122,7 +124,7 @@ class WindowDriver {
   std::list<Script> scripts_;
   std::function<void(QWidget&)> see_;
   QWidget* busyWith_ = nullptr;  ///< the dialog that is being worked
-  bool cancelNext_ = false;
+  std::list<QMessageBox::StandardButton> answers_;
 };
 
 }  // namespace tarnwick

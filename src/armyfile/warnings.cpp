@@ -58,7 +58,8 @@ std::string TerrainWarning(const ArmyState& state) {
 
 std::string BaseArmyWarning(const ArmyState& state) {
   if (!state.BaseArmyName.empty() || state.TotUnits == 0) return "";
-  return "This army has lost its base army; saved now, it cannot be loaded.";
+  return "This army has lost its base army; saved now, it cannot be loaded. "
+         "Ctrl+Z brings it back.";
 }
 
 std::string FolderWarning(const ArmyState& state, const Disk& disk) {

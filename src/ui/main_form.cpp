@@ -14,7 +14,6 @@
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
-#include "armyfile/saving.h"
 #include "battlefield/setups.h"
 #include "battlefield/terrain.h"
 #include "ui/panels/command_panel.h"
@@ -25,6 +24,7 @@
 #include "ui/panels/summary_panel.h"
 #include "ui/panels/terrain_panel.h"
 #include "ui/panels/units_panel.h"
+#include "ui/parts/entry_guard.h"
 #include "ui/parts/panel_button.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/session.h"
@@ -49,6 +49,15 @@ constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
     {"Ctrl+6", {"ShowSaveFrame"}},
     {"Ctrl+N", {"ShowSaveFrame", "NewArmyBtn"}},
     {"Ctrl+O", {"ShowSaveFrame", "LoadBtn"}}};
+
+/// The button takes back, or does again, the step of that name, if there is one.
+void ShowStep(QPushButton* button, const char* does, const std::string& step) {
+  const QString name = ToQt(step);
+  const QString tip = name.isEmpty() ? does : QString("%1: %2").arg(does, name);
+  if (button->toolTip() == tip) return;
+  button->setToolTip(tip);
+  button->setEnabled(!name.isEmpty());
+}
 
 }  // namespace
 
@@ -86,6 +95,9 @@ void MainForm::Refresh() {
   ShowFront();
   for (const auto& [panel, button] : panelButtons_)
     button->setChecked(panel == army.EditFrame.Front);
+  quickSave_->Mark(session_.Unsaved());
+  ShowStep(undo_, "Undo", session_.Steps().UndoName());
+  ShowStep(redo_, "Redo", session_.Steps().RedoName());
 }
 
 void MainForm::ShowFront() {
@@ -141,9 +153,12 @@ void MainForm::AddShortcuts() {
         if (name != nullptr) findChild<QAbstractButton*>(name)->click();
     });
   }
-  add(QKeySequence("Ctrl+PgUp"), [this] { Step(-1); });
-  add(QKeySequence("Ctrl+PgDown"), [this] { Step(1); });
+  add(QKeySequence("Ctrl+PgUp"), [this] { StepBy(-1); });
+  add(QKeySequence("Ctrl+PgDown"), [this] { StepBy(1); });
   add(QKeySequence("Ctrl+Q"), [this] { close(); });
+  add(undoKey, [this] { session_.Undo(); });
+  for (const QKeyCombination key : redoKeys)
+    add(key, [this] { session_.Redo(); });
 }
 
 void MainForm::Open(Panel panel) {
@@ -151,10 +166,10 @@ void MainForm::Open(Panel panel) {
     if (shown == panel) button->click();
 }
 
-void MainForm::Step(int by) {
+void MainForm::StepBy(int panels) {
   const auto front = std::ranges::find(panelButtons_, session_.Work.Army.EditFrame.Front,
                                        &decltype(panelButtons_)::value_type::first);
-  const auto next = (front - panelButtons_.begin()) + by;
+  const auto next = (front - panelButtons_.begin()) + panels;
   if (next >= 0 && next < std::ssize(panelButtons_)) {
     panelButtons_[static_cast<std::size_t>(next)].second->click();
   }
@@ -176,6 +191,7 @@ QWidget* MainForm::NewButtonColumn() {
   AddPanelButton(layout, "ShowSaveFrame", "&Load/Save", Panel::Management);
   layout->addSpacing(16);
   AddQuickSave(layout);
+  AddSteps(layout);
   layout->addStretch();
   const QString tip = "Edited on the panel Detail";
   layout->addWidget(NewIdleButton("HistoricalPeriod", "Define Historical Period", tip, this));
@@ -195,17 +211,34 @@ void MainForm::AddPanelButton(QVBoxLayout* column, const char* name, const char*
 }
 
 void MainForm::AddQuickSave(QVBoxLayout* column) {
-  auto* button = new PanelButton("QuickSave", "&QuickSave", this);
-  column->addWidget(button);
+  quickSave_ = new PanelButton("QuickSave", "&QuickSave", this);
+  column->addWidget(quickSave_);
   auto* entry = Named(new QAction("QuickSave", this), "mQuickSave");
   entry->setShortcut(QKeySequence::Save);
   addAction(entry);
-  const auto save = [this] { SaveArmy(session_.Work, session_.Store, session_.User); };
-  session_.Connect(button, save);
-  session_.Connect(entry, &QAction::triggered, save);
+  const auto save = [this] { session_.Save(); };
+  connect(quickSave_, &QPushButton::clicked, this, save);
+  connect(entry, &QAction::triggered, this, save);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  button->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +
-                     ")");
+  quickSave_->setToolTip("Save the army (" + entry->shortcut().toString(QKeySequence::NativeText) +
+                         ")");
+}
+
+void MainForm::AddSteps(QVBoxLayout* column) {
+  auto* row = new QHBoxLayout;
+  const auto add = [&](const char* name, const char* spoken, bool back, void (Session::*act)()) {
+    auto* button = new PanelButton(name, "", this);
+    button->setIcon(TurnIcon(back));
+    button->setAccessibleName(spoken);
+    button->setFocusPolicy(Qt::NoFocus);  // the box that has it is not left
+    button->setEnabled(false);
+    row->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(); });
+    return button;
+  };
+  undo_ = add("UndoBtn", "Undo", true, &Session::Undo);
+  redo_ = add("RedoBtn", "Redo", false, &Session::Redo);
+  column->addLayout(row);
 }
 
 QWidget* MainForm::NewPanelStack() {

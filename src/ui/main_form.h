@@ -42,6 +42,7 @@ class MainForm : public QWidget {
   void AddPanelButton(QVBoxLayout* column, const char* name, const char* caption, Panel panel,
                       std::function<void()> show = nullptr);
   void AddQuickSave(QVBoxLayout* column);
+  void AddSteps(QVBoxLayout* column);
   QWidget* NewPanelStack();
   /// Shows the panel in front.
   void ShowFront();
@@ -49,12 +50,13 @@ class MainForm : public QWidget {
   QScrollArea* NewView(PanelWidget* panel);
   void AddShortcuts();
   void Open(Panel panel);
-  void Step(int by);
+  void StepBy(int panels);
 
   Session& session_;
   std::vector<std::pair<Panel, PanelButton*>> panelButtons_;
   std::vector<PanelWidget*> panels_;
   std::vector<QScrollArea*> views_;  ///< of the panels that were in front
+  PanelButton *quickSave_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
   QStackedLayout* editFrame_ = nullptr;
   QBoxLayout* contents_;  ///< panels and summary
   SummaryPanel* summary_;

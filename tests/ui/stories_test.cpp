@@ -173,7 +173,7 @@ TEST_F(WindowTest, AnArmyIsVerifiedSavedAndReset) {
   LoadTrebia();
   Click("ShowUnitsBtn", "VerifyBtn", "ShowSaveFrame");
   EXPECT_EQ(TakeMessages(), QStringList{"Army is OK"});
-  CancelNextMessage();
+  AnswerNext(QMessageBox::Cancel);
   Click("SaveBtn", "QuickSave");
   const QString question = "Do you want to replace the existing Trebia.army file ?";
   EXPECT_EQ(TakeMessages(), (QStringList{question, question, "Army Saved"}));

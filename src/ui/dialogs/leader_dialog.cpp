@@ -38,7 +38,7 @@ LeaderDialog::LeaderDialog(Session& session, QWidget* parent)
 
   for (QComboBox* list : {initiative, command})
     session_.Connect(list, [this] { UpdateLeaderCost(form_); });
-  session_.Guard(command, [this] { return CommandBox_Validate(form_, session_.User); });
+  session_.Guard(command, nullptr, [this] { return CommandBox_Validate(form_, session_.User); });
   session_.Connect(define, [this] {
     if (DefineLeader(session_.Work.Army, session_.User, form_)) accept();
   });

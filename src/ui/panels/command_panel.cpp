@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
+#include "base/numbers.h"
 #include "rules/leaders.h"
 #include "rules/special_cards.h"
 #include "ui/parts/colours.h"
@@ -76,9 +77,12 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
     if (frame->title() != ButtonText(caption)) frame->setTitle(ButtonText(caption));
   });
   bindings_.Add([this, warning] { ShowWarning(warning, LeaderWarning(army_)); });
-  session_.Connect(leaders,
-                   [this, leaders] { LeaderName_Click(army_, user_, leaders->checkedId()); });
-  session_.Connect(define, [this] { user_.ShowLeaderMgmtForm(); });
+  session_.Connect(
+      leaders, [this] { return "Leader " + army_.Leaders[army_.SelectedLeader].Name; },
+      [this, leaders] { LeaderName_Click(army_, user_, leaders->checkedId()); });
+  session_.Connect(
+      define, [this] { return "New leader " + army_.Leaders[army_.LeaderCount - 1].Name; },
+      [this] { user_.ShowLeaderMgmtForm(); });
   return frame;
 }
 
@@ -117,7 +121,13 @@ void CommandPanelWidget::AddCardRow() {
   bindings_.Add([quantity, &card = command.SpecNameLabel[j], &limit = command.SpecMaxLabel[j]] {
     ShowSpokenName(quantity, ToQt("Buy " + card.Caption + ", at most " + limit.Caption));
   });
-  session_.Guard(quantity, [this, j] { return SpecBuy_Validate(army_, user_, j); });
+  session_.Guard(
+      quantity,
+      [&command, j] {
+        return NumberText(LenientNumber(command.SpecBuy[j].Text)) + " " +
+               command.SpecNameLabel[j].Caption;
+      },
+      [this, j] { return SpecBuy_Validate(army_, user_, j); });
 }
 
 }  // namespace tarnwick

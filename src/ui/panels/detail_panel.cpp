@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
+#include "ui/parts/qt_text.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -32,7 +33,7 @@ QWidget* DetailPanelWidget::NewDescriptionFrame() {
   layout->addWidget(length);
   layout->addWidget(description);
   bindings_.Add([this, length] { ShowWarning(length, LengthWarning(header_.ArmyDesc.Text, 1)); });
-  session_.Connect(description, [this] { ArmyDesc_Change(header_); });
+  session_.Connect(description, Step("Army description"), [this] { ArmyDesc_Change(header_); });
   return frame;
 }
 
@@ -41,6 +42,7 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
   auto* layout = new QVBoxLayout(frame);
   bindings_.AddVisible(frame, header_.HistoricTab.Visible);
 
+  const StepName step = Step("Historical period");
   using Validate = bool (*)(ArmyHeader&, Host&);
   using Click = void (*)(ArmyHeader&);
   const auto add = [&](const char* frameName, const char* labelName, const QString& spoken,
@@ -64,8 +66,9 @@ QWidget* DetailPanelWidget::NewPeriodFrame() {
     });
     layout->addWidget(half);
     const auto refused = [this, validate] { return validate(header_, user_); };
-    session_.Guard(year, refused, &header_.ArmyPeriod);
-    session_.Connect(eras, [this, click] { click(header_); });
+    session_.Guard(year, step, refused, &header_.ArmyPeriod);
+    session_.Connect(year, step, [] {});
+    session_.Connect(eras, step, [this, click] { click(header_); });
   };
   add("Frame9", "Label30", "From", "&From:", "FromData", header_.FromData, FromData_Validate,
       "FromACBC", header_.FromACBC, FromACBC_Click);
@@ -78,11 +81,18 @@ QWidget* DetailPanelWidget::NewTypeFrame() {
   auto* frame = NewFrame("Frame6", "Army Type", this);
   auto* layout = new QVBoxLayout(frame);
   const auto add = [&](const char* name, const char* caption, CheckBox& control) {
-    layout->addWidget(bindings_.Add(Named(new QCheckBox(caption, frame), name), control));
+    layout->addWidget(NewCheckBox(name, caption, control, frame));
   };
   add("TYPE_IsPersonal", "&Personal", header_.TYPE_IsPersonal);
   add("TYPE_IsFantasy", "Fa&ntasy", header_.TYPE_IsFantasy);
   return frame;
+}
+
+QCheckBox* DetailPanelWidget::NewCheckBox(const char* name, const QString& caption,
+                                          CheckBox& control, QWidget* parent) {
+  auto* box = bindings_.Add(Named(new QCheckBox(caption, parent), name), control);
+  session_.Connect(box, Step(FromQt(QString(caption).remove('&'))), [] {});
+  return box;
 }
 
 QWidget* DetailPanelWidget::NewRulesFrame() {
@@ -90,8 +100,7 @@ QWidget* DetailPanelWidget::NewRulesFrame() {
   auto* layout = new QGridLayout(frame);
   int place = 0;
   const auto add = [&](const char* name, const char* caption, CheckBox& control) {
-    auto* box = Named(new QCheckBox(caption, frame), name);
-    layout->addWidget(bindings_.Add(box, control), place % 3, place / 3);
+    layout->addWidget(NewCheckBox(name, caption, control, frame), place % 3, place / 3);
     ++place;
   };
   add("Discipline", "Discipl&ine", header_.Discipline);

@@ -16,6 +16,8 @@ class DetailPanelWidget : public PanelWidget {
   QWidget* NewPeriodFrame();
   QWidget* NewTypeFrame();
   QWidget* NewRulesFrame();
+  QCheckBox* NewCheckBox(const char* name, const QString& caption, CheckBox& control,
+                         QWidget* parent);
 };
 
 }  // namespace tarnwick

@@ -6,8 +6,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "armyfile/loading.h"
-#include "armyfile/saving.h"
 #include "armyfile/warnings.h"
 #include "ui/parts/widgets.h"
 
@@ -26,7 +24,9 @@ QWidget* ManagementPanelWidget::NewModuleFrame() {
   auto* frame = NewLineFrame("Frame10", "Module", this);
   auto* modules = NewOptions("modOption", 2, frame->layout(), frame, "EB");
   bindings_.Add(modules, army_.Management.modOption);
-  session_.Connect(modules, [this] { modOption_Click(work_, disk_); });
+  session_.Connect(
+      modules, [this] { return "Module " + army_.Management.modOption[army_.BrakkaMode].Caption; },
+      [this] { modOption_Click(work_, disk_); });
   return frame;
 }
 
@@ -55,9 +55,8 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
   });
   bindings_.Add([this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); });
-  // What is shown elsewhere follows the names as they are typed.
-  for (QLineEdit* box : {name, file})
-    session_.Connect(box, &QLineEdit::textEdited, [] {});
+  session_.Connect(name, Step("Army name"), [] {});
+  session_.Connect(file, Step("File name"), [] {});
   return frame;
 }
 
@@ -82,9 +81,9 @@ QWidget* ManagementPanelWidget::NewButtons() {
   layout->addWidget(warning, layout->rowCount(), 0, 1, 4);
   layout->setColumnStretch(3, 1);
   bindings_.Add([this, warning] { ShowWarning(warning, BaseArmyWarning(army_)); });
-  session_.Connect(newArmy, [this] { NewArmyBtn_Click(work_, disk_, user_); });
-  session_.Connect(load, [this] { LoadBtn_Click(work_, disk_, user_); });
-  session_.Connect(save, [this] { SaveArmy(work_, disk_, user_); });
+  session_.Connect(newArmy, Step("New army"), [this] { NewArmyBtn_Click(work_, disk_, user_); });
+  connect(load, &QPushButton::clicked, this, [this] { session_.Load(); });
+  connect(save, &QPushButton::clicked, this, [this] { session_.Save(); });
   return row;
 }
 

@@ -25,6 +25,8 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
     auto* list = NewDropDown(name, frame);
     list->setMinimumContentsLength(6);
     lists->addRow(caption, bindings_.Add(list, control));
+    session_.Connect(
+        list, Step(std::string("Monster ") + QString(caption).remove('&').toStdString()), [] {});
   };
   addList("M_Size", "Si&ze", army_.Monster.M_Size);
   addList("M_TQ", "TQ", army_.Monster.M_TQ);
@@ -41,7 +43,7 @@ MonsterPanelWidget::MonsterPanelWidget(Session& session)
   Body()->addLayout(buttons);
   Body()->addStretch();
 
-  session_.Connect(newMonster, [this] { NewMonster(army_.Monster); });
+  session_.Connect(newMonster, Step("New monster"), [this] { NewMonster(army_.Monster); });
 }
 
 }  // namespace tarnwick

@@ -55,7 +55,7 @@ QWidget* SetupPanelWidget::NewSetupList() {
   // An entry that is selected already shows its setup again, as after the panel hid it.
   session_.Connect(list, &QListWidget::itemClicked, choose);
   session_.Connect(list, &QListWidget::itemActivated, choose);
-  session_.Connect(create, [this] { Command6_Click(field_, army_, disk_); });
+  session_.Connect(create, Step("New Setup"), [this] { Command6_Click(field_, army_, disk_); });
   connect(create, &QPushButton::clicked, this, [this] { units_->setFocus(); });
   session_.Connect(remove, [this] { Command3_Click(army_); });
   return side;
@@ -85,7 +85,8 @@ QWidget* SetupPanelWidget::NewSetupFrame() {
   bindings_.Add(description, field_.Setup.description);
   bindings_.Add(
       [this, length] { ShowWarning(length, LengthWarning(field_.Setup.description.Text, 2)); });
-  session_.Connect(description, [this] { description_Change(field_, army_, disk_); });
+  session_.Connect(description, Step("Setup description"),
+                   [this] { description_Change(field_, army_, disk_); });
   return frame;
 }
 
@@ -96,6 +97,7 @@ QLayout* SetupPanelWidget::NewUnitList(QWidget* parent) {
   units_->setIconSize(thumbnailSize);
   units_->setAccessibleName("Units to deploy");
   units_->setDragEnabled(true);
+  session_.Connect(units_, &QListWidget::itemSelectionChanged, [] {});
   units_->OnKey([this](const QKeyEvent& key) { return DeployByKey(key); });
   connect(units_, &QListWidget::itemDoubleClicked, this,
           [this] { Deploy(units_->NextRow(), FirstFreePlace(field_.Setup)); });
@@ -146,7 +148,8 @@ void SetupPanelWidget::AddPlace(int place, const QString& spoken, QGridLayout* l
   assign->setAccessibleName("Deploy to " + spoken);
   bindings_.Add([this, spoken, unit, assign] { ShowPlace(spoken, unit, assign); });
 
-  session_.Connect(assign, [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
+  session_.Connect(assign, Step("Deployment"),
+                   [this, place] { assignBtn_Click(field_, army_, disk_, user_, place); });
   const auto deploy = [this, place](int entry) { Deploy(entry, place); };
   const auto mark = [unit](bool held) {
     unit->setBackgroundRole(held ? QPalette::Midlight : QPalette::Base);
@@ -206,10 +209,11 @@ bool SetupPanelWidget::DeployByKey(const QKeyEvent& key) {
 
 void SetupPanelWidget::Deploy(int row, int place) {
   if (row < 0 || row >= units_->count() || place < 0) return;
-  session_.Run([this, row, place] {
+  const auto deploy = [this, row, place] {
     field_.Setup.unitList.ListIndex = row;
     assignBtn_Click(field_, army_, disk_, user_, place);
-  });
+  };
+  session_.Run(Step("Deployment"), deploy);
   units_->setFocus();
 }
 

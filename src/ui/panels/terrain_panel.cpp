@@ -108,12 +108,7 @@ QWidget* TerrainPanelWidget::NewAreas() {
     auto* area = new TerrainTile(ElementName("Area", i), areas);
     areas_.push_back(area);
     area->setToolTip(QString("Area %1").arg(i + 1));
-    bindings_.Add([this, area, i] {
-      const int kind = field_.Terrain.Area[i].Picture;
-      QString word = ToQt(field_.TerrainKinds[kind].Name).toLower();
-      if (!word.isEmpty()) word[0] = word[0].toUpper();
-      ShowSpokenName(area, QString("Area %1: %2").arg(i + 1).arg(word));
-    });
+    bindings_.Add([this, area, i] { ShowSpokenName(area, AreaText(i)); });
     area->MakeArea([this, i](int piece) { PutDown(piece, i); });
     layout->addWidget(area, i / 3, i % 3);
     AddPicture(area, field_.Terrain.Area[i]);
@@ -122,6 +117,13 @@ QWidget* TerrainPanelWidget::NewAreas() {
     });
   }
   return areas;
+}
+
+QString TerrainPanelWidget::AreaText(int area) const {
+  const int kind = field_.Terrain.Area[area].Picture;
+  QString word = ToQt(field_.TerrainKinds[kind].Name).toLower();
+  if (!word.isEmpty()) word[0] = word[0].toUpper();
+  return QString("Area %1: %2").arg(area + 1).arg(word);
 }
 
 QWidget* TerrainPanelWidget::NewPointsFrame() {
@@ -151,7 +153,8 @@ void TerrainPanelWidget::Pick(std::optional<int> piece) {
 
 void TerrainPanelWidget::PutDown(int piece, int area) {
   Pick(std::nullopt);
-  session_.Run([this, piece, area] { DropTerrain(field_, army_, user_, piece, area); });
+  session_.Run([this, area] { return FromQt(AreaText(area)); },
+               [this, piece, area] { DropTerrain(field_, army_, user_, piece, area); });
 }
 
 }  // namespace tarnwick

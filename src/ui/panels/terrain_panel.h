@@ -30,6 +30,8 @@ class TerrainPanelWidget : public PanelWidget {
   QWidget* NewAreas();
   QWidget* NewPointsFrame();
   void AddPicture(TerrainTile* tile, const PictureBox& control);
+  /// "Area 4: Mountain"
+  QString AreaText(int area) const;
   /// Makes the battlefield as large as there is room.
   void FitAreas();
   void Pick(std::optional<int> piece);

@@ -14,6 +14,7 @@
 
 #include "armyfile/resetting.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "rules/unit_grid.h"
 #include "rules/unit_purchase.h"
 #include "rules/verification.h"
@@ -89,7 +90,7 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units,
   Body()->addWidget(NewGrid());
   Body()->addStretch();
   session_.Connect(verify, [this] { VerifyBtn_Click(army_, user_); });
-  session_.Connect(reset, [this] { ResetArmy_Click(work_, disk_); });
+  session_.Connect(reset, Step("Reset army"), [this] { ResetArmy_Click(work_, disk_); });
 }
 
 QWidget* UnitsPanelWidget::NewViewFrame() {
@@ -170,7 +171,17 @@ void UnitsPanelWidget::AddQuantity(int line) {
   quantity->setFixedWidth(TextWidth(quantity, headings[buy].Characters));
   lines_.back().Quantity = quantity;
   grid_->addWidget(bindings_.Add(quantity, army_.Units.Buy[line]), line + 1, buy);
-  session_.Guard(quantity, [this, line] { return Buy_Validate(army_, disk_, user_, line); });
+  session_.Guard(
+      quantity,
+      [this, line] {
+        return NumberText(LenientNumber(army_.Units.Buy[line].Text)) + " " + UnitName(line);
+      },
+      [this, line] { return Buy_Validate(army_, disk_, user_, line); });
+}
+
+std::string UnitsPanelWidget::UnitName(int line) const {
+  return std::string(
+      Trim(army_.Units.TypeLabel[line].Caption + " " + army_.Units.ClassLabel[line].Caption));
 }
 
 void UnitsPanelWidget::AddPictures(int line) {
@@ -183,7 +194,9 @@ void UnitsPanelWidget::AddPictures(int line) {
   pictures->setMaximumWidth(TextWidth(pictures, 36));
   lines_.back().Pictures = pictures;
   grid_->addWidget(bindings_.Add(pictures, units.ImageName[line]), line + 1, image);
-  session_.Connect(pictures, [this, line] { ImageName_Click(army_, line); });
+  session_.Connect(
+      pictures, [this, line] { return "Picture of " + UnitName(line); },
+      [this, line] { ImageName_Click(army_, line); });
 
   auto* thumbnail = new Thumbnail(grid);
   grid_->addWidget(thumbnail, line + 1, picture);

@@ -28,6 +28,8 @@ class UnitsPanelWidget : public PanelWidget {
   void AddQuantity(int line);
   void AddPictures(int line);
   void AddAbilities(int line);
+  /// Type and class of what a line shows.
+  std::string UnitName(int line) const;
   /// For when another view has taken the line away that had the focus.
   void FocusLastQuantity();
   /// Says of which line each control of it is.

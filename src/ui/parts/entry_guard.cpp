@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/parts/entry_guard.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QAbstractButton>
@@ -37,6 +38,22 @@ bool StaysInBox(const QEvent& event) {
 
 bool InDialog(const QWidget& widget) {
   return qobject_cast<const QDialog*>(widget.window()) != nullptr;
+}
+
+bool IsTextBox(const QObject* object) {
+  return object->inherits("QLineEdit") || object->inherits("QPlainTextEdit");
+}
+
+bool TakesBack(const QKeySequence& keys) {
+  return keys[0] == undoKey || std::ranges::count(redoKeys, keys[0]) > 0;
+}
+
+/// What was typed before is no longer the box's own to take back.
+void ForgetTyping(QLineEdit* box) {
+  if (!box->isUndoAvailable() && !box->isRedoAvailable()) return;
+  const int cursor = box->cursorPosition();
+  box->setText(box->text());
+  box->setCursorPosition(cursor);
 }
 
 /// The panel that scrolls with the box on it, else the box's window.
@@ -92,8 +109,12 @@ bool EntryGuard::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       return RefusesClick(object, event);
+    case QEvent::ShortcutOverride:
+      // A text box would take them all to itself.
+      return TakesBack(static_cast<QKeyEvent*>(event)->keyCombination()) && IsTextBox(object) &&
+             !InDialog(*static_cast<QWidget*>(object));
     case QEvent::Shortcut:
-      return RefusesShortcut() || PressesAtOnce(object, event);
+      return RefusesShortcut(event) || PressesAtOnce(object, event);
     case QEvent::KeyPress:
       if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) return TakesEscape(object);
       return checks_.contains(object) && RefusesKey(static_cast<QWidget*>(object), event);
@@ -114,14 +135,20 @@ bool EntryGuard::RefusesClick(QObject* object, QEvent* event) {
   if (clicked == nullptr) return false;
   QWidget* box = BoxInFocus(clicked->window());
   if (box == nullptr || box->isAncestorOf(clicked)) return false;  // itself counts, too
+  if (clicked->inherits("QAbstractButton") && clicked->focusPolicy() == Qt::NoFocus) return false;
   // The window asked already when the widget sees the click.
   if (object->isWidgetType() && passed_ == box) return false;
   return Refuses(box);
 }
 
-bool EntryGuard::RefusesShortcut() {
-  QWidget* box = BoxInFocus(QApplication::activeWindow());
-  return box != nullptr && Refuses(box);
+bool EntryGuard::RefusesShortcut(const QEvent* event) {
+  if (TakesBack(static_cast<const QShortcutEvent*>(event)->key())) return false;
+  return !Leave(QApplication::activeWindow());
+}
+
+bool EntryGuard::Leave(const QWidget* window) {
+  QWidget* box = BoxInFocus(window);
+  return box == nullptr || !Refuses(box);
 }
 
 /// A button would wait before its letter presses it, and what is typed next would come first.
@@ -130,6 +157,26 @@ bool EntryGuard::PressesAtOnce(QObject* object, QEvent* event) {
   if (button == nullptr || static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
   button->click();
   return true;
+}
+
+bool EntryGuard::UndoTyping() {
+  QWidget* focus = QApplication::focusWidget();
+  auto* line = qobject_cast<QLineEdit*>(focus);
+  auto* text = qobject_cast<QPlainTextEdit*>(focus);
+  const bool can = line ? line->isUndoAvailable() : text && text->document()->isUndoAvailable();
+  if (can) line ? line->undo() : text->undo();
+  if (can) return true;
+  // A check may have rewritten what was typed.
+  return line != nullptr && line == entry_.Box && line->text() != entry_.Text && PutsBack(line);
+}
+
+bool EntryGuard::RedoTyping() {
+  QWidget* focus = QApplication::focusWidget();
+  auto* line = qobject_cast<QLineEdit*>(focus);
+  auto* text = qobject_cast<QPlainTextEdit*>(focus);
+  const bool can = line ? line->isRedoAvailable() : text && text->document()->isRedoAvailable();
+  if (can) line ? line->redo() : text->redo();
+  return can;
 }
 
 bool EntryGuard::RefusesKey(QWidget* box, QEvent* event) {
@@ -159,24 +206,28 @@ void EntryGuard::CheckGainedFocus(QObject* object, QEvent* event) {
   if (!object->isWidgetType() || InDialog(*static_cast<QWidget*>(object))) return;
   auto* box = qobject_cast<QLineEdit*>(object);
   const bool stays = StaysInBox(*event);
-  if (box == nullptr) {
-    if (!stays) entry_.Box = nullptr;
-  } else if (!stays || box != entry_.Box) {
-    Remember(box);
+  if (box != nullptr) {
+    if (!stays || box != entry_.Box) Remember(box);
+  } else if (!stays) {
+    entry_.Box = nullptr;
+    ++visit_;
+    if (auto* text = qobject_cast<QPlainTextEdit*>(object)) text->document()->clearUndoRedoStacks();
   }
 }
 
 void EntryGuard::Remember(QLineEdit* box) {
+  ++visit_;
+  ForgetTyping(box);
   const std::string* taken = checks_.value(box).Taken;
   entry_ = {box, box->text(), taken != nullptr ? *taken : ""};
 }
 
 bool EntryGuard::PutsBack(QLineEdit* box) {
   if (std::string* taken = checks_.value(box).Taken) *taken = entry_.Taken;
-  if (box->text() == entry_.Text) return false;
-  box->setText(entry_.Text);
+  const bool typed = box->text() != entry_.Text;
+  if (typed) box->setText(entry_.Text);
   Q_EMIT box->textEdited(entry_.Text);  // to whoever hears what is typed
-  return true;
+  return typed;
 }
 
 bool EntryGuard::TakesEscape(QObject* object) {

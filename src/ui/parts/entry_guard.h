@@ -15,11 +15,18 @@ class QWidget;
 
 namespace tarnwick {
 
+// Undo and redo. They leave no box: what was typed there is the first that they take back.
+
+inline constexpr QKeyCombination undoKey = Qt::CTRL | Qt::Key_Z;
+inline constexpr QKeyCombination redoKeys[] = {Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+                                               Qt::CTRL | Qt::Key_Y};
+
 /// Checks what was entered into a box before anything else happens when the user leaves the box:
 /// by Tab or Enter, by a click elsewhere, by a shortcut. A refused entry keeps the focus, with its
 /// text selected, and what the user was about to do does not happen. Enter goes on to the next
 /// box that is checked. Escape takes an entry back, or leaves a box where there is none, without a
 /// check; a dialog it closes. A letter with Alt presses its button as soon as the entry is checked.
+/// Undo, redo and buttons that take no focus do not leave the box.
 class EntryGuard : public QObject {
  public:
   explicit EntryGuard(QObject* parent = nullptr);
@@ -31,6 +38,17 @@ class EntryGuard : public QObject {
   /// Runs an operation. What it writes into the box that has the focus was not typed: Escape goes
   /// back to that.
   void Follow(const std::function<void()>& operation);
+
+  // For the box that has the focus; false when it has nothing of its own to take back.
+
+  bool UndoTyping();
+  bool RedoTyping();
+
+  /// Checks the box that has the focus of a window. Returns whether it may be left.
+  [[nodiscard]] bool Leave(const QWidget* window);
+
+  /// Counts the times that the user came to a box or went on in one that was accepted.
+  int Visit() const { return visit_; }
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -51,7 +69,7 @@ class EntryGuard : public QObject {
   QWidget* BoxInFocus(const QWidget* window) const;
   bool Refuses(QWidget* box);
   bool RefusesClick(QObject* object, QEvent* event);
-  bool RefusesShortcut();
+  bool RefusesShortcut(const QEvent* event);
   static bool PressesAtOnce(QObject* object, QEvent* event);
   bool RefusesKey(QWidget* box, QEvent* event);
   void CheckLostFocus(QWidget* box, QEvent* event);
@@ -63,7 +81,8 @@ class EntryGuard : public QObject {
   QHash<QObject*, Check> checks_;
   Entry entry_;
   QPointer<QWidget> passed_;  ///< accepted just now, about to lose the focus
-  bool checking_ = false;     ///< a check is under way, perhaps with its message on the screen
+  int visit_ = 0;
+  bool checking_ = false;  ///< a check is under way, perhaps with its message on the screen
 };
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "ui/parts/panel_button.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include "ui/parts/colours.h"
 
@@ -18,6 +19,12 @@ PanelButton::PanelButton(const QString& name, const QString& caption, QWidget* p
 QSize PanelButton::sizeHint() const {
   const int em = fontMetrics().height();
   return {fontMetrics().horizontalAdvance(text()) + 3 * em, 2 * em + 4};
+}
+
+void PanelButton::Mark(bool marked) {
+  if (marked_ == marked) return;
+  marked_ = marked;
+  update();
 }
 
 void PanelButton::paintEvent(QPaintEvent* /*event*/) {
@@ -46,6 +53,31 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
   const int across = apart ? Qt::AlignHCenter : Qt::AlignLeft;
   painter.drawText(area.adjusted(apart ? 0 : fontMetrics().height(), 0, 0, 0),
                    across | int{Qt::AlignVCenter} | int{Qt::TextShowMnemonic}, text());
+  const int em = fontMetrics().height();
+  QRect picture(0, 0, em, em);
+  picture.moveCenter(rect().center());
+  icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+  if (!marked_) return;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(AccentColour());
+  painter.drawEllipse(QPointF(area.right() - em, area.center().y()), em / 4.0, em / 4.0);
+}
+
+QIcon TurnIcon(bool back) {
+  constexpr int side = 64;
+  QPixmap pixmap(side, side);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (!back) painter.setTransform({-1, 0, 0, 1, side, 0});
+  painter.setPen(QPen(TextColour(), 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  QPainterPath way(QPointF(24, 54));
+  way.lineTo(40, 54);
+  way.arcTo(23, 20, 34, 34, -90, 180);
+  way.lineTo(10, 20);
+  painter.drawPath(way);
+  painter.drawPolyline(QPolygon({{24, 6}, {10, 20}, {24, 34}}));
+  return pixmap;
 }
 
 }  // namespace tarnwick

@@ -3,8 +3,12 @@
 #include "ui/parts/session.h"
 
 #include <string>
+#include <utility>
 
 #include <QCoreApplication>
+
+#include "armyfile/loading.h"
+#include "armyfile/saving.h"
 
 namespace tarnwick {
 
@@ -13,11 +17,14 @@ void Session::OnChange(QObject* view, std::function<void()> refresh) {
   views_.emplace_back(view, std::move(refresh));
 }
 
-bool Session::Run(const std::function<void()>& operation) {
+bool Session::Run(const StepName& step, const std::function<void()>& operation, int typing) {
   if (error_) return false;
   try {
     guard_.Follow([&] {
+      ++underWay_;
       operation();
+      --underWay_;
+      EndEvent(step, typing);
       for (const auto& [view, refresh] : views_) {
         if (view) refresh();
       }
@@ -33,12 +40,43 @@ bool Session::Run(const std::function<void()>& operation) {
   }
 }
 
-void Session::Guard(QWidget* box, const std::function<bool()>& refused, std::string* taken) {
-  const auto check = [this, refused] {
+void Session::EndEvent(const StepName& step, int typing) {
+  if (step) step_ = step;  // of an operation and those that it made run, it names the event
+  if (underWay_ == 0) history_.EndEvent(std::exchange(step_, nullptr), typing);
+}
+
+void Session::Guard(QWidget* box, const StepName& step, const std::function<bool()>& refused,
+                    std::string* taken) {
+  const auto check = [this, refused, step] {
     bool result = false;
-    return !Run([&] { result = refused(); }) || result;
+    return !Run(
+               step, [&] { result = refused(); }, guard_.Visit()) ||
+           result;
   };
   guard_.Watch(box, check, taken);
+}
+
+bool Session::Save() {
+  bool saved = false;
+  Run([&] {
+    saved = SaveArmy(Work, Store, User);
+    if (saved) history_.MarkSaved();
+  });
+  return saved;
+}
+
+void Session::Load() {
+  Run(Step("Load army"), [this] {
+    if (LoadBtn_Click(Work, Store, User)) history_.MarkSaved();
+  });
+}
+
+void Session::Undo() {
+  if (!guard_.UndoTyping()) Run([this] { history_.Undo(); });
+}
+
+void Session::Redo() {
+  if (!guard_.RedoTyping()) Run([this] { history_.Redo(); });
 }
 
 void Session::Rethrow() const {
