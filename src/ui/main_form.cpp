@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -25,6 +26,7 @@
 #include "ui/panels/terrain_panel.h"
 #include "ui/panels/units_panel.h"
 #include "ui/parts/entry_guard.h"
+#include "ui/parts/message_box.h"
 #include "ui/parts/panel_button.h"
 #include "ui/parts/qt_text.h"
 #include "ui/parts/session.h"
@@ -159,6 +161,18 @@ void MainForm::AddShortcuts() {
   add(undoKey, [this] { session_.Undo(); });
   for (const QKeyCombination key : redoKeys)
     add(key, [this] { session_.Redo(); });
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!session_.Unsaved() || MayClose());
+}
+
+bool MainForm::MayClose() {
+  constexpr auto buttons = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
+  const auto answer =
+      ShowBox(QMessageBox::Question, "The army has changes that are not saved.", buttons);
+  if (answer == QMessageBox::Save) return session_.Leave(this) && session_.Save();
+  return answer == QMessageBox::Discard;
 }
 
 void MainForm::Open(Panel panel) {

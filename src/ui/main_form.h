@@ -36,6 +36,7 @@ class MainForm : public QWidget {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   QWidget* NewButtonColumn();
@@ -51,6 +52,8 @@ class MainForm : public QWidget {
   void AddShortcuts();
   void Open(Panel panel);
   void StepBy(int panels);
+  /// Asks what to do with an army that is not saved.
+  bool MayClose();
 
   Session& session_;
   std::vector<std::pair<Panel, PanelButton*>> panelButtons_;

@@ -118,7 +118,9 @@ TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
     Press(letter, Qt::AltModifier);
   EXPECT_EQ(front(Qt::Key_3), Panel::Detail);
   EXPECT_EQ(Form.focusWidget()->objectName(), "ArmyDesc");
+  AnswerNext(QMessageBox::Discard);
   Press(Qt::Key_Q, Qt::ControlModifier);
+  TakeMessages();
   EXPECT_FALSE(Form.isVisible());
   Form.show();
 }

@@ -124,7 +124,9 @@ TEST_F(WindowTest, ARowShowsItsAbilitiesAndItsPicture) {
   Press(Qt::Key_Escape);
   EXPECT_FALSE(picture.isVisible());
   Click("ViewBtn(8)");
+  AnswerNext(QMessageBox::Discard);
   EXPECT_EQ(Exec([this] { Form.close(); }), 0) << "the picture keeps the program";
+  TakeMessages();
   Form.show();
 }
 

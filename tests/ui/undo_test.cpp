@@ -265,4 +265,58 @@ TEST_F(UndoTest, WhatIsTypedIntoTheBoxInFocusGoesFirst) {
   EXPECT_EQ(Work.Header.ArmyPeriod, "");
 }
 
+TEST_F(UndoTest, ClosingAsksWhenThereIsSomethingToSave) {
+  const QString question = "The army has changes that are not saved.";
+  const auto closes = [this](const std::list<QMessageBox::StandardButton>& answers) {
+    for (const auto answer : answers)
+      AnswerNext(answer);
+    const bool closed = Form.close();
+    Form.show();
+    Settle();
+    return closed;
+  };
+  EXPECT_TRUE(closes({}));
+  LoadTrebia();
+  EXPECT_TRUE(closes({}));
+  Click("ShowUnitsBtn");
+  Fill({{"Buy(1)", "2"}});
+  Click("UndoBtn");
+  EXPECT_TRUE(closes({}));
+  Click("RedoBtn");
+  EXPECT_FALSE(closes({QMessageBox::Cancel}));
+  EXPECT_FALSE(closes({QMessageBox::Save, QMessageBox::Cancel}));
+  const QString replaces = "Do you want to replace the existing Trebia.army file ?";
+  EXPECT_EQ(TakeMessages(), (QStringList{question, question, replaces}));
+  EXPECT_TRUE(closes({QMessageBox::Save}));
+  EXPECT_EQ(TakeMessages(), (QStringList{question, replaces, "Army Saved"}));
+  EXPECT_TRUE(closes({}));
+  Fill({{"Buy(0)", "0"}});
+  EXPECT_FALSE(closes({QMessageBox::Save}));
+  EXPECT_EQ(TakeMessages(), (QStringList{question, "You must buy at least 4 units of type HI"}));
+  const std::string file = Folder.Read("Trebia.army");
+  EXPECT_TRUE(closes({QMessageBox::Discard}));
+  EXPECT_EQ(Folder.Read("Trebia.army"), file);
+  TakeMessages();
+  Enter("Buy(0)", "99");
+  EXPECT_FALSE(closes({QMessageBox::Save}));
+  EXPECT_EQ(TakeMessages(), (QStringList{question, "You can only buy 8 units"}));
+  Press(Qt::Key_Escape);
+
+  Folder.Write("Half.army", "[ARMY]\r\nbase=Carthage in Italy\r\nnumunits=1\r\nunit1=none\r\n");
+  for (const char* army : {"Half", "Trebia"}) {
+    OnDialog([=, this] { ClickEntry("ArmyList", army, true); });
+    Click("ShowSaveFrame", "LoadBtn");
+    TakeMessages();
+    EXPECT_EQ(closes({QMessageBox::Cancel}), *army == 'T') << army;
+    TakeMessages();
+  }
+  Click("ShowSetup", "Command6");
+  EXPECT_FALSE(closes({QMessageBox::Cancel}));
+  TakeMessages();
+  Session& session = Events;
+  EXPECT_FALSE(session.Run([] { throw SubscriptError(); }));
+  EXPECT_TRUE(closes({})) << "after an error";
+  TakeMessages();
+}
+
 }  // namespace tarnwick
