@@ -31,6 +31,8 @@ StepsFrame::StepsFrame(std::function<void(Panel)> open, QWidget* parent)
   layout->addStretch();
   list_->setAccessibleName("Still missing");
   list_->setWordWrap(true);
+  // A bar that comes while the list still has its old height would wrap more than stays wrapped.
+  list_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setResizeMode(QListView::Adjust);
   list_->setSpacing(3);
   const auto choose = [this](const QListWidgetItem* item) { Open(list_->row(item)); };
