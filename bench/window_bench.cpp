@@ -62,7 +62,8 @@ class ShownWindow {
     quantity_ = 3 - quantity_;
     ArmyState& army = work_.Army;
     army.Units.Buy[0].Text = std::to_string(quantity_);
-    editor_.Events.Run([&] { refused_ |= !BuyUnits(army, editor_.Store, host_, 0); });
+    editor_.Events.Run(Step("Purchase"),
+                       [&] { refused_ |= !BuyUnits(army, editor_.Store, host_, 0); });
   }
 
   /// Works off all events that are waiting until both places that a purchase changes are painted.
