@@ -98,6 +98,7 @@ void MainForm::Refresh() {
   for (const auto& [panel, button] : panelButtons_)
     button->setChecked(panel == army.EditFrame.Front);
   quickSave_->Mark(session_.Unsaved());
+  quickSave_->setAccessibleDescription(session_.Unsaved() ? "There is something to save" : "");
   ShowStep(undo_, "Undo", session_.Steps().UndoName());
   ShowStep(redo_, "Redo", session_.Steps().RedoName());
 }
@@ -158,9 +159,9 @@ void MainForm::AddShortcuts() {
   add(QKeySequence("Ctrl+PgUp"), [this] { StepBy(-1); });
   add(QKeySequence("Ctrl+PgDown"), [this] { StepBy(1); });
   add(QKeySequence("Ctrl+Q"), [this] { close(); });
-  add(undoKey, [this] { session_.Undo(); });
+  add(undoKey, [this] { session_.Undo(focusWidget()); });
   for (const QKeyCombination key : redoKeys)
-    add(key, [this] { session_.Redo(); });
+    add(key, [this] { session_.Redo(focusWidget()); });
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
@@ -169,8 +170,7 @@ void MainForm::closeEvent(QCloseEvent* event) {
 
 bool MainForm::MayClose() {
   constexpr auto buttons = QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
-  const auto answer =
-      ShowBox(QMessageBox::Question, "The army has changes that are not saved.", buttons);
+  const auto answer = ShowBox(QMessageBox::Question, "Save the changes to this army?", buttons);
   if (answer == QMessageBox::Save) return session_.Leave(this) && session_.Save();
   return answer == QMessageBox::Discard;
 }
@@ -240,14 +240,14 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
 
 void MainForm::AddSteps(QVBoxLayout* column) {
   auto* row = new QHBoxLayout;
-  const auto add = [&](const char* name, const char* spoken, bool back, void (Session::*act)()) {
+  const auto add = [&](const char* name, const char* spoken, bool back, auto act) {
     auto* button = new PanelButton(name, "", this);
     button->setIcon(TurnIcon(back));
     button->setAccessibleName(spoken);
     button->setFocusPolicy(Qt::NoFocus);  // the box that has it is not left
     button->setEnabled(false);
     row->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(); });
+    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(focusWidget()); });
     return button;
   };
   undo_ = add("UndoBtn", "Undo", true, &Session::Undo);

@@ -266,7 +266,7 @@ TEST_F(UndoTest, WhatIsTypedIntoTheBoxInFocusGoesFirst) {
 }
 
 TEST_F(UndoTest, ClosingAsksWhenThereIsSomethingToSave) {
-  const QString question = "The army has changes that are not saved.";
+  const QString question = "Save the changes to this army?";
   const auto closes = [this](const std::list<QMessageBox::StandardButton>& answers) {
     for (const auto answer : answers)
       AnswerNext(answer);

@@ -159,21 +159,18 @@ bool EntryGuard::PressesAtOnce(QObject* object, QEvent* event) {
   return true;
 }
 
-bool EntryGuard::UndoTyping() {
-  QWidget* focus = QApplication::focusWidget();
-  auto* line = qobject_cast<QLineEdit*>(focus);
-  auto* text = qobject_cast<QPlainTextEdit*>(focus);
+bool EntryGuard::UndoTyping(QWidget* box) {
+  auto* line = qobject_cast<QLineEdit*>(box);
+  auto* text = qobject_cast<QPlainTextEdit*>(box);
   const bool can = line ? line->isUndoAvailable() : text && text->document()->isUndoAvailable();
   if (can) line ? line->undo() : text->undo();
-  if (can) return true;
-  // A check may have rewritten what was typed.
-  return line != nullptr && line == entry_.Box && line->text() != entry_.Text && PutsBack(line);
+  if (can || line == nullptr || line != entry_.Box) return can;
+  return line->text() != entry_.Text && PutsBack(line);  // a check has rewritten what was typed
 }
 
-bool EntryGuard::RedoTyping() {
-  QWidget* focus = QApplication::focusWidget();
-  auto* line = qobject_cast<QLineEdit*>(focus);
-  auto* text = qobject_cast<QPlainTextEdit*>(focus);
+bool EntryGuard::RedoTyping(QWidget* box) {
+  auto* line = qobject_cast<QLineEdit*>(box);
+  auto* text = qobject_cast<QPlainTextEdit*>(box);
   const bool can = line ? line->isRedoAvailable() : text && text->document()->isRedoAvailable();
   if (can) line ? line->redo() : text->redo();
   return can;

@@ -39,10 +39,11 @@ class EntryGuard : public QObject {
   /// back to that.
   void Follow(const std::function<void()>& operation);
 
-  // For the box that has the focus; false when it has nothing of its own to take back.
+  // Take back what was typed into `box`, or bring it back; false when there is nothing of its own,
+  // or it is no box.
 
-  bool UndoTyping();
-  bool RedoTyping();
+  bool UndoTyping(QWidget* box);
+  static bool RedoTyping(QWidget* box);
 
   /// Checks the box that has the focus of a window. Returns whether it may be left.
   [[nodiscard]] bool Leave(const QWidget* window);

@@ -71,12 +71,12 @@ void Session::Load() {
   });
 }
 
-void Session::Undo() {
-  if (!guard_.UndoTyping()) Run([this] { history_.Undo(); });
+void Session::Undo(QWidget* focus) {
+  if (!guard_.UndoTyping(focus)) Run([this] { history_.Undo(); });
 }
 
-void Session::Redo() {
-  if (!guard_.RedoTyping()) Run([this] { history_.Redo(); });
+void Session::Redo(QWidget* focus) {
+  if (!EntryGuard::RedoTyping(focus)) Run([this] { history_.Redo(); });
 }
 
 void Session::Rethrow() const {

@@ -84,10 +84,10 @@ class Session {
   bool Save();
   void Load();
 
-  // Take back what was typed into the box that has the focus, else a step, or do it again.
+  // Take back what was typed into the box that has the `focus`, else a step, or do it again.
 
-  void Undo();
-  void Redo();
+  void Undo(QWidget* focus);
+  void Redo(QWidget* focus);
 
   /// Whether the army has changed since it was saved, loaded or begun; not after an error.
   bool Unsaved() const { return !error_ && history_.Unsaved(); }
