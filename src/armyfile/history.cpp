@@ -7,29 +7,29 @@
 #include "battlefield/setups.h"
 
 namespace tarnwick {
-namespace {
 
-/// The army without what only shows it, and without a text that nothing has accepted yet.
-WorkingArmy Bare(WorkingArmy work) {
-  ArmyState& army = work.Army;
-  army.Title = "";
-  army.Units = {};
-  army.Command.LeaderFrame = {};
-  for (Int16 j = 0; army.Command.SpecBuy.Has(j); ++j)
-    army.Command.SpecBuy[j].Text = "";
-  return work;
+History::Kept History::Now() const {
+  return Kept(new Moment{work_, StoredScratch(disk_)});
 }
 
-}  // namespace
-
 bool History::SameArmy(const Moment& a, const Moment& b) {
-  return a.Setups == b.Setups && Bare(a.Work) == Bare(b.Work);
+  if (a.Setups != b.Setups) return false;
+  // All but what only shows the army, and what was typed and not accepted yet.
+  WorkingArmy other = b.Work;
+  ArmyState& army = other.Army;
+  army.Title = a.Work.Army.Title;
+  army.Units = a.Work.Army.Units;
+  army.Command.LeaderFrame = a.Work.Army.Command.LeaderFrame;
+  const auto& cards = a.Work.Army.Command.SpecBuy;
+  for (Int16 j = 0; army.Command.SpecBuy.Has(j) && cards.Has(j); ++j)
+    army.Command.SpecBuy[j].Text = cards[j].Text;
+  return other == a.Work;
 }
 
 void History::EndEvent(const StepName& name, int typing) {
-  Moment now = {work_, StoredScratch(disk_)};
-  const bool changed = name && !SameArmy(now, last_);
-  if (changed) Add(name, typing, now);
+  Kept now = Now();
+  const bool changed = name && !SameArmy(*now, *last_);
+  if (changed) Add(name, typing, *now);
   // What was refused is gone when the next step is taken back.
   if (changed || !name) last_ = std::move(now);
   if (!std::exchange(saving_, false)) return;
@@ -42,7 +42,7 @@ void History::Add(const StepName& name, int typing, const Moment& now) {
   if (typing == 0 || typing != typing_) {
     undo_.push_back({name(), ++count_, std::move(last_)});
     typing_ = typing;
-  } else if (!SameArmy(now, undo_.back().Other)) {
+  } else if (!SameArmy(now, *undo_.back().Other)) {
     undo_.back().Name = name();
   } else {  // typed back
     undo_.pop_back();
@@ -57,9 +57,9 @@ void History::Move(Steps& from, Steps& to) {
   if (from.empty()) return;
   to.push_back(std::move(from.back()));
   from.pop_back();
-  last_ = std::exchange(to.back().Other, {work_, StoredScratch(disk_)});
-  work_ = last_.Work;
-  RestoreScratch(disk_, last_.Setups);
+  last_ = std::exchange(to.back().Other, Now());
+  work_ = last_->Work;
+  RestoreScratch(disk_, last_->Setups);
   typing_ = 0;
 }
 

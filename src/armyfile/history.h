@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -26,7 +27,7 @@ class History {
   /// Keeps the last `most` steps of `work`, with the setups in the program folder of `disk`. Both
   /// must outlive it.
   History(WorkingArmy& work, const Disk& disk, std::size_t most = 500)
-      : work_(work), disk_(disk), most_(most) {}
+      : work_(work), disk_(disk), most_(most), last_(Now()) {}
 
   /// Ends an event. When it has a name and the army is another than at the end of the event before,
   /// it was a step, and what was taken back is gone; without a name it has only looked around.
@@ -54,13 +55,15 @@ class History {
     WorkingArmy Work;
     std::optional<std::string> Setups;  ///< nothing without the file
   };
+  using Kept = std::unique_ptr<const Moment>;
   struct Done {
     std::string Name;
-    int Number;    ///< no other step has it
-    Moment Other;  ///< before the step, or after one that was taken back
+    int Number;  ///< no other step has it
+    Kept Other;  ///< before the step, or after one that was taken back
   };
   using Steps = std::deque<Done>;
 
+  Kept Now() const;
   static bool SameArmy(const Moment& a, const Moment& b);
   static std::string NameOf(const Steps& steps) { return steps.empty() ? "" : steps.back().Name; }
   int Place() const { return undo_.empty() ? forgotten_ : undo_.back().Number; }
@@ -70,7 +73,7 @@ class History {
   WorkingArmy& work_;
   const Disk& disk_;
   std::size_t most_;
-  Moment last_;  ///< when the last event ended
+  Kept last_;  ///< when the last event ended
   Steps undo_, redo_;
   int count_ = 0;
   int forgotten_ = 0;  ///< the last step of which there were too many
