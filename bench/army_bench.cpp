@@ -200,6 +200,7 @@ void UndoAndRedo(benchmark::State& state) {
 }
 BENCHMARK(UndoAndRedo)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+/// In a row, or with a look around after each.
 void MemoryOf500Steps(benchmark::State& state) {
   constexpr double megabyte = 1e6;
   const auto used = [] {
@@ -212,11 +213,19 @@ void MemoryOf500Steps(benchmark::State& state) {
     for (int i = 0; i < 500; ++i) {
       desk.Work.Army.PointsSpent = i % 2;
       desk.Past.EndEvent(Step("Step"));
+      if (state.range(0) == 0) continue;
+      ShowPanel(desk.Work.Army, Panel::Detail);
+      desk.Past.EndEvent();
     }
     state.counters["MB"] = (used() - before) / megabyte;
   }
 }
-BENCHMARK(MemoryOf500Steps)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(MemoryOf500Steps)
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace
 }  // namespace tarnwick

@@ -26,24 +26,27 @@ bool History::SameArmy(const Moment& a, const Moment& b) {
   return other == a.Work;
 }
 
-void History::EndEvent(const StepName& name, int typing) {
+bool History::EndEvent(const StepName& name, int typing) {
   Kept now = Now();
-  const bool changed = name && !SameArmy(*now, *last_);
-  if (changed) Add(name, typing, *now);
-  // What was refused is gone when the next step is taken back.
-  if (changed || !name) last_ = std::move(now);
-  if (!std::exchange(saving_, false)) return;
-  saved_ = Place();
-  typing_ = 0;
+  const bool step = name && !SameArmy(*now, *last_);
+  if (step) Add(name, typing, now);
+  // What was typed and refused is gone when the next step is taken back.
+  if (step || typing == 0) last_ = std::move(now);
+  if (std::exchange(saving_, false)) {
+    saved_ = Place();
+    typing_ = 0;
+  }
+  return step;
 }
 
-void History::Add(const StepName& name, int typing, const Moment& now) {
+void History::Add(const StepName& name, int typing, const Kept& now) {
   redo_.clear();
   if (typing == 0 || typing != typing_) {
-    undo_.push_back({name(), ++count_, std::move(last_)});
+    undo_.push_back({name(), ++count_, last_, now});
     typing_ = typing;
-  } else if (!SameArmy(now, *undo_.back().Other)) {
+  } else if (!SameArmy(*now, *undo_.back().Before)) {
     undo_.back().Name = name();
+    undo_.back().After = now;
   } else {  // typed back
     undo_.pop_back();
     typing_ = 0;
@@ -53,11 +56,11 @@ void History::Add(const StepName& name, int typing, const Moment& now) {
   undo_.pop_front();
 }
 
-void History::Move(Steps& from, Steps& to) {
+void History::Move(Steps& from, Steps& to, Kept Done::*moment) {
   if (from.empty()) return;
+  last_ = from.back().*moment;
   to.push_back(std::move(from.back()));
   from.pop_back();
-  last_ = std::exchange(to.back().Other, Now());
   work_ = last_->Work;
   RestoreScratch(disk_, last_->Setups);
   typing_ = 0;

@@ -21,7 +21,7 @@ inline StepName Step(std::string name) {
 }
 
 /// Takes steps of the working army back, and does them again. A step is kept as the whole value
-/// before it, with the setups on the disk.
+/// before and after it, with the setups on the disk; steps in a row share them.
 class History {
  public:
   /// Keeps the last `most` steps of `work`, with the setups in the program folder of `disk`. Both
@@ -31,13 +31,14 @@ class History {
 
   /// Ends an event. When it has a name and the army is another than at the end of the event before,
   /// it was a step, and what was taken back is gone; without a name it has only looked around.
-  /// Steps of one `typing`, a number other than 0, are one.
-  void EndEvent(const StepName& name = nullptr, int typing = 0);
+  /// Steps of one `typing`, a number other than 0, are one. Returns whether it was a step.
+  bool EndEvent(const StepName& name = nullptr, int typing = 0);
 
   /// The event under way saves the army or loads one: there is nothing to save when it ends.
   void MarkSaved() { saving_ = true; }
-  /// Whether a step lies between here and where the army was saved, loaded or begun last.
-  bool Unsaved() const { return Place() != saved_; }
+  /// Whether a step lies between here and where the army was saved, loaded or begun last. At the
+  /// very start there is nothing to save either.
+  bool Unsaved() const { return Place() != saved_ && Place() != 0; }
 
   /// The step to be taken back next; "" without one.
   std::string UndoName() const { return NameOf(undo_); }
@@ -47,19 +48,19 @@ class History {
   // The whole value comes back, and the setups on the disk as an edit goes there: a failed write is
   // silent. Without a step nothing happens.
 
-  void Undo() { Move(undo_, redo_); }
-  void Redo() { Move(redo_, undo_); }
+  void Undo() { Move(undo_, redo_, &Done::Before); }
+  void Redo() { Move(redo_, undo_, &Done::After); }
 
  private:
   struct Moment {
     WorkingArmy Work;
     std::optional<std::string> Setups;  ///< nothing without the file
   };
-  using Kept = std::unique_ptr<const Moment>;
+  using Kept = std::shared_ptr<const Moment>;
   struct Done {
     std::string Name;
     int Number;  ///< no other step has it
-    Kept Other;  ///< before the step, or after one that was taken back
+    Kept Before, After;
   };
   using Steps = std::deque<Done>;
 
@@ -67,8 +68,8 @@ class History {
   static bool SameArmy(const Moment& a, const Moment& b);
   static std::string NameOf(const Steps& steps) { return steps.empty() ? "" : steps.back().Name; }
   int Place() const { return undo_.empty() ? forgotten_ : undo_.back().Number; }
-  void Add(const StepName& name, int typing, const Moment& now);
-  void Move(Steps& from, Steps& to);
+  void Add(const StepName& name, int typing, const Kept& now);
+  void Move(Steps& from, Steps& to, Kept Done::*moment);
 
   WorkingArmy& work_;
   const Disk& disk_;

@@ -51,12 +51,14 @@ class ControlArray {
   ControlArray() = default;
   ControlArray(const ControlArray&) = default;
   ~ControlArray() = default;
-  /// Elements that `other` has not loaded become like its element 0.
+  /// Elements that `other` has not loaded are emptied and hidden.
   ControlArray& operator=(const ControlArray& other) {
     while (elements_.size() < other.count_)
       elements_.emplace_back();
-    for (std::size_t i = 0; i < elements_.size(); ++i)
-      elements_[i] = other.elements_[i < other.count_ ? i : 0];
+    for (std::size_t i = 0; i < elements_.size(); ++i) {
+      elements_[i] = i < other.count_ ? other.elements_[i] : T{};
+      if (i >= other.count_) elements_[i].Visible = false;
+    }
     count_ = other.count_;
     return *this;
   }

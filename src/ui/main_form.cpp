@@ -97,8 +97,9 @@ void MainForm::Refresh() {
   ShowFront();
   for (const auto& [panel, button] : panelButtons_)
     button->setChecked(panel == army.EditFrame.Front);
-  quickSave_->Mark(session_.Unsaved());
-  quickSave_->setAccessibleDescription(session_.Unsaved() ? "There is something to save" : "");
+  const bool unsaved = session_.Steps().Unsaved();
+  quickSave_->Mark(unsaved);
+  quickSave_->setAccessibleDescription(unsaved ? "There is something to save" : "");
   ShowStep(undo_, "Undo", session_.Steps().UndoName());
   ShowStep(redo_, "Redo", session_.Steps().RedoName());
 }
@@ -159,13 +160,13 @@ void MainForm::AddShortcuts() {
   add(QKeySequence("Ctrl+PgUp"), [this] { StepBy(-1); });
   add(QKeySequence("Ctrl+PgDown"), [this] { StepBy(1); });
   add(QKeySequence("Ctrl+Q"), [this] { close(); });
-  add(undoKey, [this] { session_.Undo(focusWidget()); });
+  add(undoKey, [this] { session_.Undo(); });
   for (const QKeyCombination key : redoKeys)
-    add(key, [this] { session_.Redo(focusWidget()); });
+    add(key, [this] { session_.Redo(); });
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!session_.Unsaved() || MayClose());
+  event->setAccepted(!session_.HasChanges() || MayClose());
 }
 
 bool MainForm::MayClose() {
@@ -247,7 +248,7 @@ void MainForm::AddSteps(QVBoxLayout* column) {
     button->setFocusPolicy(Qt::NoFocus);  // the box that has it is not left
     button->setEnabled(false);
     row->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(focusWidget()); });
+    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(); });
     return button;
   };
   undo_ = add("UndoBtn", "Undo", true, &Session::Undo);

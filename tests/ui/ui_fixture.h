@@ -158,6 +158,7 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
   void ExpectShows(const QString& name, const ControlArray<Control>& array) const {
     for (int i = 0; i < array.Count(); ++i)
       ExpectShows(ElementName(name.toLatin1(), i), array[i]);
+    EXPECT_LE(Rows(name), array.Count());
   }
   void ExpectShows(const QString& name, bool visible) const {
     EXPECT_EQ(!FindHidden(name).isHidden(), visible) << name.toStdString();

@@ -30,12 +30,13 @@ struct UndoTest : WindowTest {
   void ExpectStep(const Operation& operation) {
     SCOPED_TRACE(std::string(operation.Control) + ": " + operation.StepName);
     const bool step = *operation.StepName != 0;
-    const QString last = StepOf("UndoBtn");
+    const QString last = StepOf("UndoBtn"), next = StepOf("RedoBtn");
     const auto before = Now();
     const Lines files = Folder.Files();
     operation.Act();
     TakeMessages();
     EXPECT_EQ(StepOf("UndoBtn"), step ? operation.StepName : last);
+    EXPECT_EQ(StepOf("RedoBtn"), step ? "" : next);
     if (!step) return;
     const auto after = Now();
     EXPECT_FALSE(before == after);
@@ -169,6 +170,10 @@ TEST_F(UndoTest, EveryChangeIsTakenBackAndDoneAgain) {
 
 TEST_F(UndoTest, AMistakeCostsNothing) {
   Folder.Write("Other.army", Folder.Read("Trebia.army") + "[SETUP 2]\r\ndescription=Other\r\n");
+  const std::pair<const char*, const char*> fiveCards[] = {{"tot_special", "5"},
+                                                           {"special5", "AMBUSH,9,9"}};
+  for (const auto& [key, value] : fiveCards)
+    Store.Files.WriteIniString("Tribes of Gaul", key, value, Folder / "armylist.dat");
   OnDialog([this] { ClickEntry("ArmyList", "Trebia", true); });
   Click("LoadBtn", "ShowSetup", "Command6", "QuickSave");
   const QStringList saved = {"Do you want to replace the existing Trebia.army file ?",
@@ -195,7 +200,11 @@ TEST_F(UndoTest, AMistakeCostsNothing) {
   for (const auto& make : mistakes) {
     make();
     EXPECT_FALSE(Now() == army);
-    Click("UndoBtn", "ShowSetup");
+    const Lines armies = {Folder.Read("Trebia.army"), Folder.Read("Other.army")};
+    Click("UndoBtn");
+    ExpectWindowShowsState();
+    EXPECT_EQ(armies, (Lines{Folder.Read("Trebia.army"), Folder.Read("Other.army")}));
+    Click("ShowSetup");
     EXPECT_EQ(Now().second, army.second);
     Click("QuickSave");
     EXPECT_EQ(TakeMessages(), saved);
@@ -265,6 +274,48 @@ TEST_F(UndoTest, WhatIsTypedIntoTheBoxInFocusGoesFirst) {
   EXPECT_EQ(Work.Header.ArmyPeriod, "");
 }
 
+TEST_F(UndoTest, NothingIsCheckedAndStepsComeInTheirOrder) {
+  LoadTrebia();
+  Click("ShowUnitsBtn");
+  Fill({{"Buy(1)", "2"}});
+  Click("ShowDetailBtn", "FromData");  // which would be refused as it is
+  const auto expectSteps = [this](const char* undo, const char* redo) {
+    EXPECT_EQ(StepOf("UndoBtn") + "|" + StepOf("RedoBtn"), QString("%1|%2").arg(undo, redo));
+  };
+  Undo();
+  expectSteps("Load army", "2 HI Vet");
+  EXPECT_TRUE(Sees("EditFrame(0)"));
+  Enter("Buy(0)", "99");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(TakeMessages().size(), 1);
+  Click("RedoBtn");
+  EXPECT_EQ(Texts("Buy(0)", "Buy(1)"), (QStringList{"4", "2"}));
+
+  // Keys that leave the focus where it is.
+  Click("ShowDetailBtn", "ArmyDesc");
+  Type("X");
+  Press(Qt::Key_R, Qt::AltModifier);
+  Undo();
+  expectSteps("Army description", "Ferocity");
+  Undo();
+  Redo();
+  expectSteps("Army description", "Ferocity");
+  Click("ArmyDesc");
+  Type("Y");
+  Press(Qt::Key_S, Qt::ControlModifier);
+  TakeMessages();
+  Type("Z");
+  Undo();
+  EXPECT_FALSE(Events.HasChanges());
+  Undo();
+  expectSteps("Army description", "Army description");
+  EXPECT_TRUE(Events.HasChanges());
+
+  Click("ShowSetup", "Command6");
+  Undo();
+  EXPECT_EQ(Form.focusWidget()->objectName(), "setupList");
+}
+
 TEST_F(UndoTest, ClosingAsksWhenThereIsSomethingToSave) {
   const QString question = "Save the changes to this army?";
   const auto closes = [this](const std::list<QMessageBox::StandardButton>& answers) {
@@ -297,10 +348,14 @@ TEST_F(UndoTest, ClosingAsksWhenThereIsSomethingToSave) {
   EXPECT_TRUE(closes({QMessageBox::Discard}));
   EXPECT_EQ(Folder.Read("Trebia.army"), file);
   TakeMessages();
+  LoadTrebia();
+  const QImage saved = Find("QuickSave").grab().toImage();
+  Click("ShowUnitsBtn");
   Enter("Buy(0)", "99");
   EXPECT_FALSE(closes({QMessageBox::Save}));
   EXPECT_EQ(TakeMessages(), (QStringList{question, "You can only buy 8 units"}));
   Press(Qt::Key_Escape);
+  EXPECT_TRUE(closes({}));
 
   Folder.Write("Half.army", "[ARMY]\r\nbase=Carthage in Italy\r\nnumunits=1\r\nunit1=none\r\n");
   for (const char* army : {"Half", "Trebia"}) {
@@ -311,6 +366,7 @@ TEST_F(UndoTest, ClosingAsksWhenThereIsSomethingToSave) {
     TakeMessages();
   }
   Click("ShowSetup", "Command6");
+  EXPECT_NE(Find("QuickSave").grab().toImage(), saved);
   EXPECT_FALSE(closes({QMessageBox::Cancel}));
   TakeMessages();
   Session& session = Events;

@@ -78,12 +78,16 @@ QWidget* CommandPanelWidget::NewLeaderFrame() {
   });
   bindings_.Add([this, warning] { ShowWarning(warning, LeaderWarning(army_)); });
   session_.Connect(
-      leaders, [this] { return "Leader " + army_.Leaders[army_.SelectedLeader].Name; },
+      leaders, [this] { return "Leader " + NameOf(army_.SelectedLeader); },
       [this, leaders] { LeaderName_Click(army_, user_, leaders->checkedId()); });
   session_.Connect(
-      define, [this] { return "New leader " + army_.Leaders[army_.LeaderCount - 1].Name; },
+      define, [this] { return "New leader " + NameOf(army_.LeaderCount - 1); },
       [this] { user_.ShowLeaderMgmtForm(); });
   return frame;
+}
+
+std::string CommandPanelWidget::NameOf(Int16 leader) const {
+  return leader >= 0 ? army_.Leaders[leader].Name : "";
 }
 
 QWidget* CommandPanelWidget::NewSpecialFrame() {

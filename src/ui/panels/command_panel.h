@@ -17,6 +17,8 @@ class CommandPanelWidget : public PanelWidget {
 
  private:
   QWidget* NewLeaderFrame();
+  /// "" for −1.
+  std::string NameOf(Int16 leader) const;
   QWidget* NewSpecialFrame();
   void AddCardRow();
 

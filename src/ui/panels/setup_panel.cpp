@@ -40,21 +40,21 @@ QWidget* SetupPanelWidget::NewSetupList() {
   auto* side = new QWidget(this);
   auto* layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto* list = new EntryList("setupList", side);
+  setups_ = new EntryList("setupList", side);
   auto* create = Named(new QPushButton("&New Setup", side), "Command6");
   auto* remove = Named(new QPushButton("D&elete Setup", side), "Command3");
-  list->setAccessibleName("Setups");
-  layout->addWidget(list, 1);
+  setups_->setAccessibleName("Setups");
+  layout->addWidget(setups_, 1);
   layout->addWidget(create);
   layout->addWidget(remove);
   side->setFixedWidth(TextWidth(side, 15));
 
-  bindings_.Add(list, field_.Setup.setupList);
+  bindings_.Add(setups_, field_.Setup.setupList);
   const auto choose = [this] { setupList_Click(field_, army_, disk_); };
-  session_.Connect(list, &QListWidget::itemSelectionChanged, choose);
+  session_.Connect(setups_, &QListWidget::itemSelectionChanged, choose);
   // An entry that is selected already shows its setup again, as after the panel hid it.
-  session_.Connect(list, &QListWidget::itemClicked, choose);
-  session_.Connect(list, &QListWidget::itemActivated, choose);
+  session_.Connect(setups_, &QListWidget::itemClicked, choose);
+  session_.Connect(setups_, &QListWidget::itemActivated, choose);
   session_.Connect(create, Step("New Setup"), [this] { Command6_Click(field_, army_, disk_); });
   connect(create, &QPushButton::clicked, this, [this] { units_->setFocus(); });
   session_.Connect(remove, [this] { Command3_Click(army_); });
@@ -169,8 +169,11 @@ void SetupPanelWidget::ShowPlace(const QString& spoken, QLabel* unit, QPushButto
 }
 
 void SetupPanelWidget::Refresh() {
+  const QWidget* focus = window()->focusWidget();
   PanelWidget::Refresh();
   if (isVisible()) ShowThumbnails();
+  // A setup that is taken back takes its frame along.
+  if (isAncestorOf(focus) && !focus->isVisibleTo(this)) setups_->setFocus();
 }
 
 void SetupPanelWidget::showEvent(QShowEvent* event) {

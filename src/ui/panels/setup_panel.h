@@ -40,7 +40,7 @@ class SetupPanelWidget : public PanelWidget {
   /// Deploys the unit of a row to a place; −1 is none.
   void Deploy(int row, int place);
 
-  EntryList* units_ = nullptr;
+  EntryList *setups_ = nullptr, *units_ = nullptr;
   std::vector<Thumbnail*> thumbnails_;  ///< by place
 };
 

@@ -48,12 +48,9 @@ bool TakesBack(const QKeySequence& keys) {
   return keys[0] == undoKey || std::ranges::count(redoKeys, keys[0]) > 0;
 }
 
-/// What was typed before is no longer the box's own to take back.
-void ForgetTyping(QLineEdit* box) {
-  if (!box->isUndoAvailable() && !box->isRedoAvailable()) return;
-  const int cursor = box->cursorPosition();
-  box->setText(box->text());
-  box->setCursorPosition(cursor);
+QString LineText(const QObject* box) {
+  const auto* line = qobject_cast<const QLineEdit*>(box);
+  return line != nullptr ? line->text() : "";
 }
 
 /// The panel that scrolls with the box on it, else the box's window.
@@ -76,10 +73,24 @@ void EntryGuard::Watch(QWidget* box, const std::function<bool()>& refused, std::
 }
 
 void EntryGuard::Follow(const std::function<void()>& operation) {
-  const QPointer<QLineEdit> box = entry_.Box;
-  const QString text = box ? box->text() : "";
+  const QPointer<QWidget> box = entry_.Box;
+  const QString text = LineText(box);
   operation();
-  if (!checking_ && box && box == entry_.Box && box->text() != text) Remember(box);
+  if (!checking_ && box && box == entry_.Box && LineText(box) != text) Begin(box);
+}
+
+void EntryGuard::Replace(const std::function<void()>& operation) {
+  if (HasTyping()) PutsBack(qobject_cast<QLineEdit*>(entry_.Box));
+  checking_ = true;
+  operation();
+  checking_ = false;
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) focus = entry_.Box;
+  Begin(focus);
+}
+
+bool EntryGuard::HasTyping() const {
+  return checks_.contains(entry_.Box) && LineText(entry_.Box) != entry_.Text;
 }
 
 QWidget* EntryGuard::BoxInFocus(const QWidget* window) const {
@@ -98,7 +109,7 @@ bool EntryGuard::Refuses(QWidget* box) {
   checking_ = false;
   if (alive && !refused) {
     passed_ = box;
-    if (box == entry_.Box) Remember(entry_.Box);
+    if (box == entry_.Box) Begin(box);
   }
   return refused;
 }
@@ -159,18 +170,17 @@ bool EntryGuard::PressesAtOnce(QObject* object, QEvent* event) {
   return true;
 }
 
-bool EntryGuard::UndoTyping(QWidget* box) {
-  auto* line = qobject_cast<QLineEdit*>(box);
-  auto* text = qobject_cast<QPlainTextEdit*>(box);
+bool EntryGuard::UndoTyping() {
+  auto* line = qobject_cast<QLineEdit*>(entry_.Box);
+  auto* text = qobject_cast<QPlainTextEdit*>(entry_.Box);
   const bool can = line ? line->isUndoAvailable() : text && text->document()->isUndoAvailable();
   if (can) line ? line->undo() : text->undo();
-  if (can || line == nullptr || line != entry_.Box) return can;
-  return line->text() != entry_.Text && PutsBack(line);  // a check has rewritten what was typed
+  return can || (HasTyping() && PutsBack(line));  // a check has rewritten what was typed
 }
 
-bool EntryGuard::RedoTyping(QWidget* box) {
-  auto* line = qobject_cast<QLineEdit*>(box);
-  auto* text = qobject_cast<QPlainTextEdit*>(box);
+bool EntryGuard::RedoTyping() {
+  auto* line = qobject_cast<QLineEdit*>(entry_.Box);
+  auto* text = qobject_cast<QPlainTextEdit*>(entry_.Box);
   const bool can = line ? line->isRedoAvailable() : text && text->document()->isRedoAvailable();
   if (can) line ? line->redo() : text->redo();
   return can;
@@ -201,22 +211,21 @@ void EntryGuard::CheckLostFocus(QWidget* box, QEvent* event) {
 
 void EntryGuard::CheckGainedFocus(QObject* object, QEvent* event) {
   if (!object->isWidgetType() || InDialog(*static_cast<QWidget*>(object))) return;
-  auto* box = qobject_cast<QLineEdit*>(object);
-  const bool stays = StaysInBox(*event);
-  if (box != nullptr) {
-    if (!stays || box != entry_.Box) Remember(box);
-  } else if (!stays) {
-    entry_.Box = nullptr;
-    ++visit_;
-    if (auto* text = qobject_cast<QPlainTextEdit*>(object)) text->document()->clearUndoRedoStacks();
-  }
+  if (StaysInBox(*event) && (object == entry_.Box || !IsTextBox(object))) return;
+  Begin(static_cast<QWidget*>(object));
 }
 
-void EntryGuard::Remember(QLineEdit* box) {
+void EntryGuard::Begin(QWidget* box) {
   ++visit_;
-  ForgetTyping(box);
+  if (auto* text = qobject_cast<QPlainTextEdit*>(box)) text->document()->clearUndoRedoStacks();
+  auto* line = qobject_cast<QLineEdit*>(box);
+  if (line != nullptr && (line->isUndoAvailable() || line->isRedoAvailable())) {
+    const int cursor = line->cursorPosition();
+    line->setText(line->text());  // forgets what was typed
+    line->setCursorPosition(cursor);
+  }
   const std::string* taken = checks_.value(box).Taken;
-  entry_ = {box, box->text(), taken != nullptr ? *taken : ""};
+  entry_ = {box, LineText(box), taken != nullptr ? *taken : ""};
 }
 
 bool EntryGuard::PutsBack(QLineEdit* box) {

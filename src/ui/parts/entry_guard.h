@@ -39,17 +39,28 @@ class EntryGuard : public QObject {
   /// back to that.
   void Follow(const std::function<void()>& operation);
 
-  // Take back what was typed into `box`, or bring it back; false when there is nothing of its own,
-  // or it is no box.
+  /// Runs an operation that may give all boxes other texts. What was typed and not checked yet is
+  /// taken back first; no box is checked that loses the focus on the way.
+  void Replace(const std::function<void()>& operation);
 
-  bool UndoTyping(QWidget* box);
-  static bool RedoTyping(QWidget* box);
+  // Take back what was typed into the box that has the focus, or bring it back; false when there
+  // is nothing of its own, or it is no box.
+
+  bool UndoTyping();
+  bool RedoTyping();
+
+  /// What was typed into the box that has the focus is no longer its own.
+  void ForgetTyping() { Begin(entry_.Box); }
+
+  /// Whether something was typed into the box that has the focus and not checked yet.
+  bool HasTyping() const;
 
   /// Checks the box that has the focus of a window. Returns whether it may be left.
   [[nodiscard]] bool Leave(const QWidget* window);
 
-  /// Counts the times that the user came to a box or went on in one that was accepted.
-  int Visit() const { return visit_; }
+  /// Counts the times that the user came to a box, or went on in one that was accepted; 0 for a box
+  /// that has not the focus.
+  int Visit(const QWidget* box) const { return box == entry_.Box ? visit_ : 0; }
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -59,10 +70,11 @@ class EntryGuard : public QObject {
     std::function<bool()> Refused;
     std::string* Taken = nullptr;
   };
-  /// What a box held when the user came to it, or when it was accepted since.
+  /// What has the focus of the main window, and what it held when the user came to it, or when it
+  /// was accepted since.
   struct Entry {
-    QPointer<QLineEdit> Box;
-    QString Text;
+    QPointer<QWidget> Box;
+    QString Text;  ///< of a box of one line
     std::string Taken;
   };
 
@@ -75,7 +87,7 @@ class EntryGuard : public QObject {
   bool RefusesKey(QWidget* box, QEvent* event);
   void CheckLostFocus(QWidget* box, QEvent* event);
   void CheckGainedFocus(QObject* object, QEvent* event);
-  void Remember(QLineEdit* box);
+  void Begin(QWidget* box);
   bool PutsBack(QLineEdit* box);
   bool TakesEscape(QObject* object);
 
@@ -83,7 +95,7 @@ class EntryGuard : public QObject {
   Entry entry_;
   QPointer<QWidget> passed_;  ///< accepted just now, about to lose the focus
   int visit_ = 0;
-  bool checking_ = false;  ///< a check is under way, perhaps with its message on the screen
+  bool checking_ = false;  ///< or replacing: nothing is checked then
 };
 
 }  // namespace tarnwick

@@ -36,7 +36,7 @@ void PanelButton::paintEvent(QPaintEvent* /*event*/) {
   QColor fill = apart ? Qt::white : Qt::transparent;
   if (isChecked()) {
     fill = AccentColour();
-  } else if (isDown() || underMouse()) {
+  } else if (isEnabled() && (isDown() || underMouse())) {
     fill = AccentColour();
     fill.setAlpha(isDown() ? 70 : 35);
   }

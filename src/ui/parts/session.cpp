@@ -42,16 +42,17 @@ bool Session::Run(const StepName& step, const std::function<void()>& operation, 
 
 void Session::EndEvent(const StepName& step, int typing) {
   if (step) step_ = step;  // of an operation and those that it made run, it names the event
-  if (underWay_ == 0) history_.EndEvent(std::exchange(step_, nullptr), typing);
+  if (underWay_ > 0) return;
+  const bool made = history_.EndEvent(std::exchange(step_, nullptr), typing);
+  if (made && typing == 0) guard_.ForgetTyping();  // or it would be taken back before that step
 }
 
 void Session::Guard(QWidget* box, const StepName& step, const std::function<bool()>& refused,
                     std::string* taken) {
-  const auto check = [this, refused, step] {
+  const auto check = [this, box, refused, step] {
     bool result = false;
-    return !Run(
-               step, [&] { result = refused(); }, guard_.Visit()) ||
-           result;
+    const auto look = [&] { result = refused(); };
+    return !Run(step, look, guard_.Visit(box)) || result;
   };
   guard_.Watch(box, check, taken);
 }
@@ -62,6 +63,7 @@ bool Session::Save() {
     saved = SaveArmy(Work, Store, User);
     if (saved) history_.MarkSaved();
   });
+  if (saved) guard_.ForgetTyping();
   return saved;
 }
 
@@ -71,12 +73,14 @@ void Session::Load() {
   });
 }
 
-void Session::Undo(QWidget* focus) {
-  if (!guard_.UndoTyping(focus)) Run([this] { history_.Undo(); });
+void Session::Undo() {
+  const auto undo = [this] { history_.Undo(); };
+  if (!guard_.UndoTyping()) guard_.Replace([&] { Run(undo); });
 }
 
-void Session::Redo(QWidget* focus) {
-  if (!EntryGuard::RedoTyping(focus)) Run([this] { history_.Redo(); });
+void Session::Redo() {
+  const auto redo = [this] { history_.Redo(); };
+  if (!guard_.RedoTyping()) guard_.Replace([&] { Run(redo); });
 }
 
 void Session::Rethrow() const {

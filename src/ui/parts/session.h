@@ -60,10 +60,8 @@ class Session {
   /// focus leaves the box is one step.
   template <typename Sender>
   void Connect(Sender* sender, const StepName& step, const std::function<void()>& operation) {
-    constexpr bool text =
-        std::is_base_of_v<QLineEdit, Sender> || std::is_base_of_v<QPlainTextEdit, Sender>;
     QObject::connect(sender, SignalOf(sender), sender,
-                     [this, step, operation] { Run(step, operation, text ? guard_.Visit() : 0); });
+                     [this, sender, step, operation] { Run(step, operation, TypingIn(sender)); });
   }
   template <typename Sender>
   void Connect(Sender* sender, const std::function<void()>& operation) {
@@ -84,13 +82,13 @@ class Session {
   bool Save();
   void Load();
 
-  // Take back what was typed into the box that has the `focus`, else a step, or do it again.
+  // Take back what was typed into the box that has the focus, else a step, or do it again.
 
-  void Undo(QWidget* focus);
-  void Redo(QWidget* focus);
+  void Undo();
+  void Redo();
 
-  /// Whether the army has changed since it was saved, loaded or begun; not after an error.
-  bool Unsaved() const { return !error_ && history_.Unsaved(); }
+  /// Whether there is something to save, or to be checked before; not after an error.
+  bool HasChanges() const { return !error_ && (history_.Unsaved() || guard_.HasTyping()); }
 
   /// Lets the error that has ended the program end the operation, too, that opened a dialog.
   void Rethrow() const;
@@ -101,6 +99,11 @@ class Session {
   static auto SignalOf(const QComboBox*) { return &QComboBox::activated; }
   static auto SignalOf(const QLineEdit*) { return &QLineEdit::textEdited; }
   static auto SignalOf(const QPlainTextEdit*) { return &QPlainTextEdit::textChanged; }
+
+  /// The same number for what is typed until the focus leaves the box, 0 for what is not typed.
+  static int TypingIn(const QObject*) { return 0; }
+  int TypingIn(const QLineEdit* box) const { return guard_.Visit(box); }
+  int TypingIn(const QPlainTextEdit* box) const { return guard_.Visit(box); }
 
   bool Run(const StepName& step, const std::function<void()>& operation, int typing);
   void EndEvent(const StepName& step, int typing);
