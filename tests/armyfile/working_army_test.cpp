@@ -30,14 +30,6 @@ TEST_F(AfterALoad, ANewArmyStartsFromTheChosenBaseArmy) {
   EXPECT_FALSE(Army.Units.Buy[0].Visible);
 }
 
-TEST_F(AfterALoad, TheArmyIsAPlainValue) {
-  const WorkingArmy before = Work;
-  NewArmy("Strict Army");
-  EXPECT_FALSE(Work == before);
-  Work = before;
-  EXPECT_TRUE(Work == before);
-}
-
 TEST_F(AfterALoad, TheModuleMovesTheCatalogsAndLeavesTheArmy) {
   const std::string before = Summary();
   for (const bool brakka : {true, false, true}) {

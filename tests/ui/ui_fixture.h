@@ -103,8 +103,9 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
 
   /// Carthage with the cheapest leader, a card and just what its limits ask for: 235 of 400 army
   /// points and 200 of 250 command points are free.
-  void LoadTrebia() {
-    OnDialog([this] { ClickEntry("ArmyList", "Trebia", true); });
+  void LoadTrebia() { Load("Trebia"); }
+  void Load(const QString& army) {
+    OnDialog([this, army] { ClickEntry("ArmyList", army, true); });
     Click("ShowSaveFrame", "LoadBtn");
   }
 
