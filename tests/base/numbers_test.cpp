@@ -37,21 +37,21 @@ TEST(Table, HoldsItsRowsAndNoOthers) {
 }
 
 TEST(ControlArray, GrowsByCopiesOfItsFirstElementAndMovesNone) {
-  ControlArray<int> controls, other;
-  controls[0] = 5;
+  ControlArray<Label> controls, other;
+  controls[0].Caption = "5";
   controls.Load();
-  EXPECT_EQ(std::exchange(controls[1], 6), 5);
+  EXPECT_EQ(std::exchange(controls[1].Caption, "6"), "5");
   other = controls;
   controls.Load();
   EXPECT_FALSE(other == controls);
-  int& last = controls[2];
-  EXPECT_EQ(std::exchange(last, 7), 5);
+  Label& last = controls[2];
+  EXPECT_EQ(last.Caption, "5");
   EXPECT_THROW(controls[-1], SubscriptError);
-  EXPECT_EQ(ErrorOf([&] { controls[3] = 0; }), "Subscript out of range");
+  EXPECT_EQ(ErrorOf([&] { controls[3] = {}; }), "Subscript out of range");
   controls = other;
-  EXPECT_TRUE(other == controls);
-  EXPECT_FALSE(controls.Has(2));
-  EXPECT_EQ(last, 5);
+  EXPECT_TRUE(other == controls && controls[1].Visible);
+  EXPECT_FALSE(controls.Has(2) || last.Visible);
+  EXPECT_EQ(last.Caption, "");
   controls.Load();
   EXPECT_EQ(&controls[2], &last);
 }

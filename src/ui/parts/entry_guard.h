@@ -95,7 +95,9 @@ class EntryGuard : public QObject {
   Entry entry_;
   QPointer<QWidget> passed_;  ///< accepted just now, about to lose the focus
   int visit_ = 0;
-  bool checking_ = false;  ///< or replacing: nothing is checked then
+  /// A check is under way, perhaps with its message on the screen, or a replacement; no other check
+  /// begins.
+  bool checking_ = false;
 };
 
 }  // namespace tarnwick

@@ -18,7 +18,8 @@ PanelButton::PanelButton(const QString& name, const QString& caption, QWidget* p
 
 QSize PanelButton::sizeHint() const {
   const int em = fontMetrics().height();
-  return {fontMetrics().horizontalAdvance(text()) + 3 * em, 2 * em + 4};
+  const int height = icon().isNull() ? 2 * em + 4 : em + 14;
+  return {fontMetrics().horizontalAdvance(text()) + 3 * em, height};
 }
 
 void PanelButton::Mark(bool marked) {
