@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
 #include <QTimer>
@@ -15,11 +16,12 @@ namespace tarnwick {
 /// taking anything down, so that the program's time is that of its start.
 class EndAtFirstPaint : public QObject {
  public:
-  explicit EndAtFirstPaint(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+  EndAtFirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
 
-  bool eventFilter(QObject* /*window*/, QEvent* event) override {
-    // The children are painted after the window itself and within the same event.
-    if (event->type() == QEvent::Paint) QTimer::singleShot(0, [] { std::_Exit(0); });
+  bool eventFilter(QObject* painted, QEvent* event) override {
+    // What its children cover of a window is not painted itself; all is within the same event.
+    if (event->type() == QEvent::Paint && painted->isWidgetType())
+      QTimer::singleShot(0, [] { std::_Exit(0); });
     return false;
   }
 };

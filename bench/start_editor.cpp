@@ -23,7 +23,7 @@ int main(int argc, char* argv[]) {
   ApplyStyle();
 
   Editor editor(arguments[1].toStdU16String());
-  const EndAtFirstPaint end(editor.Form);
+  const EndAtFirstPaint end;
   if (!editor.Form.Start() || editor.Work.Army.Catalog.TotImages == 0) return 1;
   editor.Form.show();
   return QApplication::exec();

@@ -12,7 +12,7 @@
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QWidget window;
-  const tarnwick::EndAtFirstPaint end(window);
+  const tarnwick::EndAtFirstPaint end;
   window.show();
   return QApplication::exec();
 }
