@@ -91,6 +91,7 @@ TEST_F(WindowTest, KeysPressTheButtonsThatTheyStandFor) {
   EXPECT_EQ(front(Qt::Key_PageDown), Panel::Management);
   EXPECT_EQ(front(Qt::Key_PageUp), Panel::Setup);
   EXPECT_EQ(front(Qt::Key_PageUp), Panel::Terrain);
+  EXPECT_EQ(front(Qt::Key_PageDown), Panel::Setup);
   for (const Qt::Key opens : {Qt::Key_N, Qt::Key_O}) {
     OnDialog([this] {
       EXPECT_TRUE(Sees("ArmyList") && Work.Army.EditFrame.Front == Panel::Management);
