@@ -241,18 +241,19 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
 
 void MainForm::AddSteps(QVBoxLayout* column) {
   auto* row = new QHBoxLayout;
-  const auto add = [&](const char* name, const char* spoken, bool back, auto act) {
+  const auto add = [&](const char* name, const char* spoken, bool back) {
     auto* button = new PanelButton(name, "", this);
     button->setIcon(TurnIcon(back));
     button->setAccessibleName(spoken);
     button->setFocusPolicy(Qt::NoFocus);  // the box that has it is not left
     button->setEnabled(false);
     row->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, act] { (session_.*act)(); });
     return button;
   };
-  undo_ = add("UndoBtn", "Undo", true, &Session::Undo);
-  redo_ = add("RedoBtn", "Redo", false, &Session::Redo);
+  undo_ = add("UndoBtn", "Undo", true);
+  redo_ = add("RedoBtn", "Redo", false);
+  connect(undo_, &QPushButton::clicked, this, [this] { session_.Undo(); });
+  connect(redo_, &QPushButton::clicked, this, [this] { session_.Redo(); });
   column->addLayout(row);
 }
 
