@@ -43,7 +43,8 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
             "There is no saved.army in the base game's folder; Delete would end the editor.");
   form.ArmyList.ListIndex = -1;
   desk.NewArmy("");
-  EXPECT_EQ(told(), "This army has lost its base army; saved now, it cannot be loaded. "
+  EXPECT_EQ(told(),
+            "This army has lost its base army; saved now, it cannot be loaded. "
             "Ctrl+Z brings it back.");
   desk.Army.TotUnits = 0;
   desk.Army.LeaderCount = 6;
