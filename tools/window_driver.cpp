@@ -188,8 +188,14 @@ QString WindowDriver::Picture(const QString& name) const {
 void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
   if (!widget.isEnabled()) Fail(widget.objectName() + " is idle");
   ScrollTo(widget);
-  const QPoint there = widget.mapTo(widget.window(), position);
-  const QWidget* hit = widget.window()->childAt(there);
+  QPoint there;
+  const QWidget* hit = nullptr;
+  // A user waits until a window that has just opened is laid out.
+  for (int tries = 0; tries < 50 && !widget.isAncestorOf(hit); ++tries) {
+    if (tries > 0) QTest::qWait(10);
+    there = widget.mapTo(widget.window(), position);
+    hit = widget.window()->childAt(there);
+  }
   if (!widget.isAncestorOf(hit)) {
     Fail(widget.objectName() + " is covered by " + (hit ? hit->objectName() : "its window"));
   }
