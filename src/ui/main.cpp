@@ -1,16 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <QApplication>
+#include <exception>
 
+#include <QApplication>
+#include <QStandardPaths>
+
+#include "catalog/shipped_files.h"
 #include "ui/editor.h"
 #include "ui/parts/application_style.h"
+#include "ui/parts/message_box.h"
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
   QApplication application(argc, argv);
   ApplyStyle();
 
-  Editor editor(QCoreApplication::applicationDirPath().toStdU16String());
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  const auto installation =
+      FindInstallation(QCoreApplication::applicationDirPath().toStdU16String(),
+                       (own + "/tarnwick").toStdU16String());
+  try {
+    BringUpToDate(installation);
+  } catch (const std::exception& error) {
+    ShowBox(QMessageBox::Critical, error.what());  // and go on with what there is
+  }
+  Editor editor(installation.Program);
   if (!editor.Form.Start()) return 1;
   editor.Form.show();
   return QApplication::exec();
