@@ -152,6 +152,9 @@ TEST_F(WindowTest, TheDetailsAreThoseOfTheArmy) {
 TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndTrapsAndNoPeriod) {
   Click("modOption(1)");
   EXPECT_EQ(Text("NewArmyFile"), ".army in the folder brakka");
+  Click("OpenFolder");  // which the platform can't
+  EXPECT_EQ(TakeMessages(),
+            QStringList("The army files are in " + ToQt((Folder / "brakka").string())));
   NewArmy(0);
   EXPECT_EQ(Text("ArmyName"), "Fenmoot of Oorl");
   OnDialog([this] {

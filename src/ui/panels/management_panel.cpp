@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/management_panel.h"
 
+#include <QDesktopServices>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "armyfile/warnings.h"
+#include "base/ansi.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -47,9 +50,12 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   layout->addWidget(fileLabel, 1, 0);
   layout->addWidget(file, 1, 1);
   layout->addWidget(fileHint, 1, 2);
+  auto* folder = Named(new QPushButton("Open folder", frame), "OpenFolder");
+  folder->setToolTip("Show the folder of the army files; armies of friends go there");
+  layout->addWidget(folder, 1, 3);
   layout->setColumnStretch(2, 1);
   auto* warning = NewWarning("FolderWarning", frame);
-  layout->addWidget(warning, 2, 1, 1, 2);
+  layout->addWidget(warning, 2, 1, 1, 3);
 
   bindings_.Add([fileHint, this] {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
@@ -57,7 +63,14 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   bindings_.Add([this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); });
   session_.Connect(name, Step("Army name"), [] {});
   session_.Connect(file, Step("File name"), [] {});
+  session_.Connect(folder, [this] { OpenFolder(); });
   return frame;
+}
+
+void ManagementPanelWidget::OpenFolder() {
+  const auto folder = disk_.ModuleFolder(army_.BrakkaMode);
+  const bool opened = QDesktopServices::openUrl(QUrl::fromLocalFile(folder.c_str()));
+  if (!opened) user_.Message("The army files are in " + AnsiFromPath(folder));
 }
 
 QWidget* ManagementPanelWidget::NewButtons() {

@@ -14,6 +14,8 @@ class ManagementPanelWidget : public PanelWidget {
  private:
   QWidget* NewModuleFrame();
   QWidget* NewNameFrame();
+  /// Shows where the module's army files are.
+  void OpenFolder();
   QWidget* NewButtons();
 };
 
