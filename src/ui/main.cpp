@@ -13,6 +13,7 @@
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
   QApplication application(argc, argv);
+  QApplication::setDesktopFileName("tarnwick");  // by which a desktop finds the icon
   ApplyStyle();
 
   const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);

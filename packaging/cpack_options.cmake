@@ -1,0 +1,10 @@
+# Read by cpack for each package: the archive has the portable component alone, in one folder.
+if(CPACK_GENERATOR STREQUAL "TGZ")
+  set(CPACK_COMPONENTS_ALL portable)
+  set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+  set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+  set(CPACK_ARCHIVE_PORTABLE_FILE_NAME ${CPACK_PACKAGE_FILE_NAME})
+else()
+  set(CPACK_MONOLITHIC_INSTALL ON)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()
