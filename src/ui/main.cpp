@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
 #include <exception>
+#include <string>
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -23,8 +24,9 @@ int main(int argc, char* argv[]) {
   try {
     BringUpToDate(installation);
   } catch (const std::exception& error) {
-    ShowBox(QMessageBox::Critical, error.what());  // and go on with what there is
-  }
+    ShowBox(QMessageBox::Critical,
+            "The catalogs could not be brought up to date.\n\r" + std::string(error.what()));
+  }  // and on with what there is
   Editor editor(installation.Program);
   if (!editor.Form.Start()) return 1;
   editor.Form.show();
