@@ -6,11 +6,13 @@
 #include <cstdio>
 #include <filesystem>
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
 
 #include "base/ansi.h"
+#include "base/errors.h"
 #include "catalog/image_catalog.h"
 
 namespace tarnwick {
@@ -39,13 +41,19 @@ void DrawCell(QPainter& painter, const QRect& area, const ImageRec& image, const
                    Text(image.Name + "\n" + image.Type + "," + image.Class + "," + image.Missile));
 }
 
-bool DrawSheet(const fs::path& folder, const QString& target) {
-  ImageCatalog catalog;
-  const Disk disk(folder);
-  constexpr bool brakka = true;  // its catalog takes in the base game's
-  LoadImages(catalog, disk, brakka, "");
+/// Stands in every sheet, so that no other picture is ever replaced.
+constexpr const char* mark = "tarnwick contact-sheet";
+
+bool MayReplace(const QString& target) {
+  return !QFileInfo::exists(target) || QImageReader(target).text("Software") == mark;
+}
+
+constexpr bool brakka = true;  // its catalog takes in the base game's
+
+bool DrawSheet(const Disk& disk, const ImageCatalog& catalog, const QString& target) {
   const int rows = (catalog.TotImages.Value() + columns - 1) / columns;
   QImage sheet(cell.width() * columns, cell.height() * rows, QImage::Format_RGB32);
+  sheet.setText("Software", mark);
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
   QFont font = painter.font();
@@ -64,13 +72,31 @@ bool DrawSheet(const fs::path& folder, const QString& target) {
 }  // namespace tarnwick
 
 int main(int argc, char* argv[]) {
+  using namespace tarnwick;
   if (argc != 3) {
     std::fputs("usage: contact-sheet FOLDER PNG\n", stderr);
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
-  if (tarnwick::DrawSheet(argv[1], argv[2])) return 0;
-  std::fprintf(stderr, "%s cannot be written\n", argv[2]);
+  const Disk disk(argv[1]);
+  ImageCatalog catalog;
+  try {
+    LoadImages(catalog, disk, brakka, "");
+  } catch (const RuntimeError& error) {
+    std::fprintf(stderr, "contact-sheet: the image catalogs of %s: %s\n", argv[1], error.what());
+    return 1;
+  }
+  if (catalog.TotImages == 0) {
+    std::fprintf(stderr, "contact-sheet: %s is no program folder: it has no images\n", argv[1]);
+    return 2;
+  }
+  const QString target = QString::fromLocal8Bit(argv[2]);
+  if (!MayReplace(target)) {
+    std::fprintf(stderr, "contact-sheet: %s is there and is no contact sheet\n", argv[2]);
+    return 2;
+  }
+  if (DrawSheet(disk, catalog, target)) return 0;
+  std::fprintf(stderr, "contact-sheet: %s cannot be written\n", argv[2]);
   return 1;
 }

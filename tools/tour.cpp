@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include <QApplication>
 #include <QLabel>
@@ -28,6 +29,7 @@ class Tour {
   }
 
   void Run() {
+    Start();
     TakePicture(form_, "start");
     ChooseArmy();
     BuyUnits();
@@ -95,6 +97,7 @@ class Tour {
     }
   }
 
+  void Start();
   void ChooseArmy();
   void BuyUnits();
   void LookAtUnits();
@@ -112,6 +115,12 @@ class Tour {
   WindowDriver driver_;
   int count_ = 0;
 };
+
+void Tour::Start() {
+  if (!form_.Start()) Fail(driver_.TakeMessages().join("\n"));
+  form_.resize(1280, 800);
+  form_.show();
+}
 
 void Tour::ChooseArmy() {
   std::puts("A new army out of the catalog");
@@ -293,16 +302,38 @@ void Tour::Save() {
   TakePicture(form_, "saved");
 }
 
+/// Stands in every folder that a tour has made.
+constexpr const char* mark = ".tour";
+
+/// Whether nothing is lost with the folder.
+bool MayReplace(const fs::path& out) {
+  if (!fs::exists(out)) return true;
+  return fs::is_directory(out) && (fs::is_empty(out) || fs::exists(out / mark));
+}
+
+void LayOut(const fs::path& data, const fs::path& out) {
+  fs::remove_all(out);
+  fs::create_directories(out);
+  std::ofstream(out / mark) << "The next tour throws this folder away.\n";
+  fs::copy(data, out / "program", fs::copy_options::recursive);
+}
+
 }  // namespace
 }  // namespace tarnwick
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
-  if (argc != 3) {
+  if (argc != 3 || !fs::is_directory(argv[1])) {
     std::fputs(
         "usage: tour DATA OUT\n  DATA  the folder of the catalogs\n"
         "  OUT   takes the pictures and the saved army; made anew\n",
         stderr);
+    return 2;
+  }
+  const fs::path out = fs::absolute(argv[2]);
+  if (!MayReplace(out)) {
+    std::fprintf(stderr, "tour: %s holds what no tour has made; name a new or an empty folder\n",
+                 out.c_str());
     return 2;
   }
   if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -310,15 +341,13 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   ApplyStyle();
 
-  const fs::path out = fs::absolute(argv[2]);
-  fs::remove_all(out);
-  fs::create_directories(out);
-  fs::copy(argv[1], out / "program", fs::copy_options::recursive);
-
+  try {
+    LayOut(argv[1], out);
+  } catch (const fs::filesystem_error& error) {
+    std::fprintf(stderr, "tour: %s\n", error.what());
+    return 1;
+  }
   Editor editor(out / "program");
-  if (!editor.Form.Start()) return 1;
-  editor.Form.resize(1280, 800);
-  editor.Form.show();
   Tour(editor.Form, out).Run();
   std::printf("Pictures and the program folder with the saved army are in %s\n", out.c_str());
   return 0;
