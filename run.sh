@@ -4,13 +4,13 @@
 cd "$(dirname "$0")"
 source tools/set-up
 
-need_to_run
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  need run
   build run tarnwick
   say "Opening the editor; armies are saved in $PWD/program"
   exec program/tarnwick
 fi
-need_hidden_display
+need run display
 build run tarnwick tour
 say "No display: driving the window through a whole army"
 exec xvfb-run -a build/release/tools/tour data build/tour

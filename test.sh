@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs all tests.
+# Installs what is missing, builds the editor with its tests and runs them.
 cd "$(dirname "$0")"
 source tools/set-up
 
-need_to_test
+need run display test
 build release
 say "Testing"
 ctest --preset release
