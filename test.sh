@@ -6,4 +6,4 @@ source tools/set-up
 need run display test
 build release
 say "Testing"
-ctest --preset release
+run_tests release
