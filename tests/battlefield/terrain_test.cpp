@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "battlefield/terrain.h"
 
+#include "base/numbers.h"
 #include "support/fake_host.h"
 #include "support/temp_folder.h"
 
@@ -36,11 +37,16 @@ struct Terrain : testing::Test {
 TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
   const char* const prices[] = {"0|0", "-30|-5", "-60|-10", "-20|0", "-50|-15", "-150|0"};
   const char* const names[] = {"CLEAR", "SLOPE", "CAMP", "WOOD", "MOUNTAIN", "CLIFF"};
+  std::string army = "| army points |", command = "| command points |";
   for (int kind = 0; kind <= 5; ++kind) {
     State.PointsLeft = State.CommandPts = 0;
     Load(std::string("area1=") + names[kind]);  // charges even below zero
     EXPECT_EQ(Points(), prices[kind]) << names[kind];
+    army += " " + NumberText(Field.TerrainKinds[kind].ArmyCost) + " |";
+    command += " " + NumberText(Field.TerrainKinds[kind].CommandCost) + " |";
   }
+  const std::string told = TempFolder::ReadBytes(SHIPPED_DATA "/../docs/file-formats.md");
+  EXPECT_TRUE(told.find(army + "\n" + command) != std::string::npos) << army << "\n" << command;
   State.PointsLeft = 150;
   State.CommandPts = 20;
   EXPECT_EQ(Drop(1, 0), "120|15");

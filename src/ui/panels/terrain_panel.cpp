@@ -21,6 +21,19 @@ namespace {
 constexpr int pieceSide = 64;
 constexpr int smallestArea = 96, largestArea = 320;
 
+/// The keyword of a kind as a word.
+QString WordFor(const TerrainKindRec& kind) {
+  const QString name = ToQt(kind.Name);
+  return name.left(1) + name.mid(1).toLower();
+}
+
+/// A kind and its price. That of the slope stands a blank further off than the others.
+QString CaptionFor(const TerrainKindRec& kind) {
+  if (kind.ArmyCost == 0 && kind.CommandCost == 0) return WordFor(kind);
+  return WordFor(kind) + (kind.Name == "SLOPE" ? "  " : " ") +
+         QString("%1ap/%2cp").arg(kind.ArmyCost.Value()).arg(kind.CommandCost.Value());
+}
+
 }  // namespace
 
 TerrainPanelWidget::TerrainPanelWidget(Session& session)
@@ -77,8 +90,6 @@ void TerrainPanelWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 QWidget* TerrainPanelWidget::NewPalette() {
-  const char* const captions[] = {"Clear",         "Slope  30ap/5cp",    "Camp 60ap/10cp",
-                                  "Wood 20ap/0cp", "Mountain 50ap/15cp", "Cliff 150ap/0cp"};
   auto* palette = new QWidget(this);
   auto* layout = new QGridLayout(palette);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -86,12 +97,16 @@ QWidget* TerrainPanelWidget::NewPalette() {
     auto* piece = new TerrainTile(ElementName("TerrImg", kind), palette);
     piece->setFixedSize(pieceSide, pieceSide);
     piece->MakePiece(kind);
-    piece->setAccessibleName(QString(captions[kind]).simplified());
     piece->setToolTip("Drag onto an area, or click here and then the area");
     pieces_.push_back(piece);
-    auto* caption = NewLabel(QString("Label%1").arg(23 + kind), captions[kind], palette);
+    auto* label = NewLabel(QString("Label%1").arg(23 + kind), "", palette);
+    bindings_.Add([this, kind, piece, label] {
+      const QString caption = CaptionFor(field_.TerrainKinds[kind]);
+      if (label->text() != caption) label->setText(caption);
+      ShowSpokenName(piece, caption.simplified());
+    });
     layout->addWidget(piece, kind, 0);
-    layout->addWidget(caption, kind, 1);
+    layout->addWidget(label, kind, 1);
     AddPicture(piece, field_.Terrain.TerrImg[kind]);
     connect(piece, &TerrainTile::clicked, this,
             [this, kind] { Pick(picked_ == kind ? std::nullopt : std::optional(kind)); });
@@ -121,9 +136,7 @@ QWidget* TerrainPanelWidget::NewAreas() {
 
 QString TerrainPanelWidget::AreaText(int area) const {
   const int kind = field_.Terrain.Area[area].Picture;
-  QString word = ToQt(field_.TerrainKinds[kind].Name).toLower();
-  if (!word.isEmpty()) word[0] = word[0].toUpper();
-  return QString("Area %1: %2").arg(area + 1).arg(word);
+  return QString("Area %1: %2").arg(area + 1).arg(WordFor(field_.TerrainKinds[kind]));
 }
 
 QWidget* TerrainPanelWidget::NewPointsFrame() {
