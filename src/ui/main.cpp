@@ -9,10 +9,12 @@
 #include "catalog/shipped_files.h"
 #include "ui/editor.h"
 #include "ui/parts/application_style.h"
+#include "ui/parts/display_check.h"
 #include "ui/parts/message_box.h"
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
+  ExplainMissingDisplay();
   QApplication application(argc, argv);
   QApplication::setDesktopFileName("tarnwick");  // by which a desktop finds the icon
   ApplyStyle();
