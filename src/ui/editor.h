@@ -14,9 +14,12 @@
 namespace tarnwick {
 
 /// The whole editor on a program folder: its files, the one working army, the way to the user and
-/// the main window. `Form.Start()` starts it.
+/// the main window, with the guide in its folder. `Form.Start()` starts it.
 struct Editor {
-  explicit Editor(std::filesystem::path programFolder) : Store(std::move(programFolder)) {
+  explicit Editor(const std::filesystem::path& programFolder)
+      : Editor(programFolder, programFolder / "guide") {}
+  Editor(std::filesystem::path programFolder, std::filesystem::path guideFolder)
+      : Store(std::move(programFolder)), Form(Events, std::move(guideFolder)) {
     User.Serve(Events);
   }
 
@@ -24,7 +27,7 @@ struct Editor {
   WorkingArmy Work;
   FormHost User;
   Session Events{Work, Store, User};
-  MainForm Form{Events};
+  MainForm Form;
 };
 
 }  // namespace tarnwick

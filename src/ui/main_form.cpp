@@ -4,6 +4,7 @@
 
 #include <array>
 #include <iterator>
+#include <utility>
 
 #include <QAction>
 #include <QCloseEvent>
@@ -52,6 +53,10 @@ constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
     {"Ctrl+N", {"ShowSaveFrame", "NewArmyBtn"}},
     {"Ctrl+O", {"ShowSaveFrame", "LoadBtn"}}};
 
+/// Of the guide, in the order of Panel.
+constexpr std::array sections = {"units.md",  "leaders.md", "description.md", "terrain.md",
+                                 "saving.md", "brakka.md",  "setups.md"};
+
 /// The button takes back, or does again, the step of that name, if there is one.
 void ShowStep(QPushButton* button, const char* does, const std::string& step) {
   const QString name = ToQt(step);
@@ -63,7 +68,8 @@ void ShowStep(QPushButton* button, const char* does, const std::string& step) {
 
 }  // namespace
 
-MainForm::MainForm(Session& session) : session_(session) {
+MainForm::MainForm(Session& session, std::filesystem::path guideFolder)
+    : session_(session), guideFolder_(std::move(guideFolder)) {
   setObjectName("MainForm");
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -132,6 +138,8 @@ void MainForm::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && button != nullptr) {
     button->click();
+  } else if (event->matches(QKeySequence::HelpContents)) {
+    ShowGuide();  // no shortcut, which would have the box checked that has the focus
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -190,6 +198,14 @@ void MainForm::StepBy(int panels) {
   }
 }
 
+void MainForm::ShowGuide() {
+  if (!guide_) guide_.emplace(guideFolder_);
+  const ArmyState& army = session_.Work.Army;
+  const Panel front = army.EditFrame.Front;
+  const bool beginner = front == Panel::Management && army.TotUnits == 0;
+  guide_->Open(beginner ? "first-army.md" : sections.at(static_cast<std::size_t>(front)));
+}
+
 QWidget* MainForm::NewButtonColumn() {
   auto* column = new QWidget(this);
   column->setAutoFillBackground(true);
@@ -241,19 +257,23 @@ void MainForm::AddQuickSave(QVBoxLayout* column) {
 
 void MainForm::AddSteps(QVBoxLayout* column) {
   auto* row = new QHBoxLayout;
-  const auto add = [&](const char* name, const char* spoken, bool back) {
+  const auto add = [&](const char* name, const char* spoken, const std::function<void()>& act) {
     auto* button = new PanelButton(name, "", this);
-    button->setIcon(TurnIcon(back));
     button->setAccessibleName(spoken);
     button->setFocusPolicy(Qt::NoFocus);  // the box that has it is not left
-    button->setEnabled(false);
     row->addWidget(button);
+    connect(button, &QPushButton::clicked, this, act);
     return button;
   };
-  undo_ = add("UndoBtn", "Undo", true);
-  redo_ = add("RedoBtn", "Redo", false);
-  connect(undo_, &QPushButton::clicked, this, [this] { session_.Undo(); });
-  connect(redo_, &QPushButton::clicked, this, [this] { session_.Redo(); });
+  undo_ = add("UndoBtn", "Undo", [this] { session_.Undo(); });
+  redo_ = add("RedoBtn", "Redo", [this] { session_.Redo(); });
+  undo_->setIcon(TurnIcon(true));
+  redo_->setIcon(TurnIcon(false));
+  for (PanelButton* button : {undo_, redo_})
+    button->setEnabled(false);
+  auto* guide = add("GuideBtn", "Guide", [this] { ShowGuide(); });
+  guide->setText("?");
+  guide->setToolTip("Guide (F1)");
   column->addLayout(row);
 }
 

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include <QWidget>
 
 #include "rules/army_state.h"
+#include "ui/dialogs/guide_window.h"
 
 class QBoxLayout;
 class QScrollArea;
@@ -25,7 +28,8 @@ class SummaryPanel;
 /// The main window: the column of panel buttons, the stack of panels, the summary.
 class MainForm : public QWidget {
  public:
-  explicit MainForm(Session& session);
+  /// `guideFolder` holds the text of the guide.
+  MainForm(Session& session, std::filesystem::path guideFolder);
 
   /// Runs the start-up. False when a run-time error ended it.
   [[nodiscard]] bool Start();
@@ -52,6 +56,8 @@ class MainForm : public QWidget {
   void AddShortcuts();
   void Open(Panel panel);
   void StepBy(int panels);
+  /// Opens the guide at the panel in front.
+  void ShowGuide();
   /// Asks what to do with an army that is not saved.
   bool MayClose();
 
@@ -63,6 +69,8 @@ class MainForm : public QWidget {
   QStackedLayout* editFrame_ = nullptr;
   QBoxLayout* contents_;  ///< panels and summary
   SummaryPanel* summary_;
+  std::filesystem::path guideFolder_;
+  std::optional<GuideWindow> guide_;  ///< once it was asked for
 };
 
 }  // namespace tarnwick

@@ -56,6 +56,8 @@ struct AccessibilityTest : WindowTest {
     seeDialog("LeaderBtn", "LeaderMgmtForm");
     Click("ShowUnitsBtn");
     seeDialog("specLabel(0)", "specForm");
+    Click("GuideBtn");
+    see(Find("GuideForm"));
   }
   QString Spoken(const QString& name) const { return Find(name).accessibleName(); }
 };

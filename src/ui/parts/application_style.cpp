@@ -31,6 +31,7 @@ void ApplyStyle() {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, Qt::white);
   palette.setColor(QPalette::PlaceholderText, HintColour());
+  palette.setColor(QPalette::Link, AccentColour());
   QApplication::setPalette(palette);
   InitPictures();
   QApplication::setWindowIcon(QIcon(":/tarnwick.png"));

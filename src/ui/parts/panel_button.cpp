@@ -18,7 +18,7 @@ PanelButton::PanelButton(const QString& name, const QString& caption, QWidget* p
 
 QSize PanelButton::sizeHint() const {
   const int em = fontMetrics().height();
-  const int height = icon().isNull() ? 2 * em + 4 : em + 14;
+  const int height = text().size() > 1 ? 2 * em + 4 : em + 14;
   return {fontMetrics().horizontalAdvance(text()) + 3 * em, height};
 }
 
