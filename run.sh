@@ -6,7 +6,7 @@ source tools/set-up
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   need run
-  build run tarnwick
+  build run tarnwick guide
   say "Opening the editor; armies are saved in $PWD/program"
   exec program/tarnwick
 fi

@@ -2,17 +2,18 @@
 // SPDX-License-Identifier: MIT
 
 // Drives the real window through a whole army on the shipped catalogs and leaves a picture of
-// every panel and dialog, and the saved army. With no display it uses the offscreen platform, which
-// has all but dragging; xvfb-run gives it a display that nobody sees.
+// every panel and dialog, the pictures of the guide and of the README, and the saved army. With no
+// display it uses the offscreen platform, which has all but dragging; xvfb-run gives it a display
+// that nobody sees.
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include <QApplication>
 #include <QLabel>
 
+#include "album.h"
 #include "ui/editor.h"
 #include "ui/parts/application_style.h"
 #include "window_driver.h"
@@ -24,7 +25,7 @@ namespace fs = std::filesystem;
 
 class Tour {
  public:
-  Tour(MainForm& form, fs::path pictures) : form_(form), pictures_(std::move(pictures)) {
+  Tour(MainForm& form, fs::path pictures) : form_(form), album_(std::move(pictures)) {
     driver_.OnSight([this](QWidget& dialog) { TakePicture(dialog, dialog.objectName()); });
   }
 
@@ -42,22 +43,15 @@ class Tour {
     Load();
     Deploy();
     SaveAgainAndDelete();
+    LookAtBrakka();
   }
 
  private:
-  void TakePicture(QWidget& window, const QString& name) {
-    WindowDriver::Settle();
-    const QString file = QString("%1-%2.png")
-                             .arg(++count_, 2, 10, QChar('0'))
-                             .arg(name.isEmpty() ? "message" : name);
-    if (!window.grab().save(QString::fromStdString((pictures_ / file.toStdString()).string()))) {
-      Fail("The picture " + file + " could not be written");
-    }
-  }
+  void TakePicture(QWidget& window, const QString& name) { album_.Take(window, name); }
 
-  [[noreturn]] static void Fail(const QString& reason) {
-    std::fprintf(stderr, "tour: %s\n", qPrintable(reason));
-    std::exit(1);
+  /// Takes a picture of a dialog, panel or label for the guide.
+  void Illustrate(const QString& name, const QString& part) {
+    album_.Illustrate(name, driver_.Find(part));
   }
 
   /// The program has said just this since the last time.
@@ -109,11 +103,11 @@ class Tour {
   void Load();
   void Deploy();
   void SaveAgainAndDelete();
+  void LookAtBrakka();
 
   MainForm& form_;
-  fs::path pictures_;
+  Album album_;
   WindowDriver driver_;
-  int count_ = 0;
 };
 
 void Tour::Start() {
@@ -126,6 +120,8 @@ void Tour::ChooseArmy() {
   std::puts("A new army out of the catalog");
   driver_.OnDialog([this] {
     driver_.Click("Command1");
+    driver_.ClickEntry("ArmyList", 0);
+    Illustrate("new-army", "ArmySelectionForm");
     driver_.ClickEntry("ArmyList", 0, true);
   });
   driver_.Click("NewArmyBtn");
@@ -133,6 +129,7 @@ void Tour::ChooseArmy() {
   driver_.Enter("ArmyName", "Hannibal at the Ticinus");
   driver_.Enter("ArmyFileName", "Ticinus");
   TakePicture(form_, "army-management");
+  Illustrate("army", "EditFrame(4)");
 }
 
 void Tour::BuyUnits() {
@@ -146,6 +143,10 @@ void Tour::BuyUnits() {
   Buy(8, "3");
   Buy(9, "3");
   TakePicture(form_, "units-infantry");
+  Illustrate("units", "EditFrame(0)");
+  Illustrate("missing", "Frame1");
+  const QWidget& lastButton = driver_.Find("GuideBtn");
+  album_.Illustrate("buttons", *lastButton.parentWidget(), &lastButton);
   driver_.Click("VerifyBtn");
   Expect({"You must buy at least 3 units of type LC or HC"});
 
@@ -159,6 +160,7 @@ void Tour::BuyUnits() {
   Buy(5, "2");
   Buy(6, "1");
   TakePicture(form_, "units-mounted");
+  Illustrate("mounted", "EditFrame(0)");
   ExpectText("TotalCost", "Points left: 45 of 400");
 }
 
@@ -166,7 +168,10 @@ void Tour::LookAtUnits() {
   std::puts("What was bought, a unit's special abilities and its picture");
   driver_.Click("ViewOption(2)");
   TakePicture(form_, "units-bought");
-  driver_.OnDialog([this] { driver_.Click("Command1"); });
+  driver_.OnDialog([this] {
+    Illustrate("abilities", "specForm");
+    driver_.Click("Command1");
+  });
   driver_.Click("specLabel(0)");
   driver_.Click("ViewBtn(0)");
   auto& picture = driver_.Find("PictureForm");
@@ -186,6 +191,7 @@ void Tour::ChooseLeader() {
     driver_.Choose("CommandBox", 1);
     driver_.Press(Qt::Key_Tab);
     driver_.Choose("CommandBox", 0);
+    Illustrate("leader", "LeaderMgmtForm");
     TakePicture(driver_.Find("LeaderMgmtForm"), "leader");
     driver_.Click("Command1");
   });
@@ -202,6 +208,7 @@ void Tour::BuyCards() {
   Expect({"You can only buy 4 cards"});
   Correct("1");
   TakePicture(form_, "command");
+  Illustrate("command", "EditFrame(1)");
   driver_.Click("ShowUnitsBtn");
   driver_.Click("VerifyBtn");
   Expect({"Army is OK"});
@@ -220,6 +227,7 @@ void Tour::Describe() {
   driver_.Click("Discipline");
   driver_.Click("Mobility");
   TakePicture(form_, "detail");
+  Illustrate("detail", "EditFrame(2)");
 }
 
 void Tour::PlaceTerrain() {
@@ -238,6 +246,7 @@ void Tour::PlaceTerrain() {
   driver_.Press(Qt::Key_Return);
   ExpectText("ArmyPts", "5");
   TakePicture(form_, "terrain");
+  Illustrate("terrain", "EditFrame(3)");
 }
 
 void Tour::Load() {
@@ -246,12 +255,14 @@ void Tour::Load() {
     driver_.Click("Command1");
     driver_.ClickEntry("ArmyList", "Ticinus");
     TakePicture(driver_.Find("ArmyListForm"), "browser");
+    Illustrate("load", "ArmyListForm");
     driver_.ClickEntry("ArmyList", "Ticinus", true);
   });
   driver_.Click("LoadBtn");
   Expect({"This army has not been created whit this editor"});
   ExpectText("TotalCost", "Points left: 5 of 400");
   TakePicture(form_, "loaded");
+  Illustrate("summary", "Frame1");
 }
 
 void Tour::Deploy() {
@@ -264,6 +275,7 @@ void Tour::Deploy() {
   driver_.ClickEntry("unitList", 3);
   driver_.Click("assignBtn(0)");
   TakePicture(form_, "setup-1");
+  Illustrate("setup", "EditFrame(6)");
   driver_.Click("Command6");
   driver_.ClickEntry("unitList", 1);
   driver_.Click("assignBtn(7)");
@@ -291,6 +303,24 @@ void Tour::SaveAgainAndDelete() {
   ExpectText("TotalCost", "Points left: 5 of 400");
 }
 
+void Tour::LookAtBrakka() {
+  std::puts("The second module's monsters, and what deleting an army would do there");
+  driver_.Click("ShowSaveFrame", "modOption(1)");
+  driver_.OnDialog([this] {
+    driver_.ClickEntry("ArmyList", "Fenmoot");
+    Illustrate("delete", "ArmyListForm");
+    driver_.ClickEntry("ArmyList", "Fenmoot", true);
+  });
+  driver_.Click("LoadBtn");
+  driver_.Click("ViewOption(1)");
+  TakePicture(form_, "brakka");
+  Illustrate("brakka", "EditFrame(0)");
+  driver_.Click("ViewOption(2)");
+  form_.resize(1280, 560);
+  WindowDriver::Settle();
+  album_.Keep(form_.grab(), "window.png");
+}
+
 void Tour::Save() {
   std::puts("Saving, and not replacing what was saved");
   driver_.Click("ShowSaveFrame");
@@ -300,6 +330,9 @@ void Tour::Save() {
   driver_.Press(Qt::Key_S, Qt::ControlModifier);
   Expect({"Do you want to replace the existing Ticinus.army file ?"});
   TakePicture(form_, "saved");
+  driver_.Click("ShowSetup");
+  Illustrate("too-early", "SetupWarning");
+  driver_.Click("ShowSaveFrame");
 }
 
 /// Stands in every folder that a tour has made.
