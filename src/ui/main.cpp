@@ -29,7 +29,7 @@ int main(int argc, char* argv[]) {
     ShowBox(QMessageBox::Critical,
             "The catalogs could not be brought up to date.\n\r" + std::string(error.what()));
   }  // and on with what there is
-  Editor editor(installation.Program);
+  Editor editor(installation.Program, installation.Guide);
   if (!editor.Form.Start()) return 1;
   editor.Form.show();
   return QApplication::exec();

@@ -15,17 +15,17 @@ TEST_F(GuideTest, OpensAtThePanelInFrontAndLeavesTheArmyAlone) {
   Press(Qt::Key_F1);
   EXPECT_EQ(Section(), "first-army.md") << "there is no army yet";
   const QWidget& guide = Find("GuideForm");
+  Press(Qt::Key_Escape);
   LoadTrebia();
   const char* const sections[] = {"units.md",   "leaders.md", "description.md",
                                   "terrain.md", "setups.md",  "saving.md"};
   for (int i = 0; const auto& [button, panel] : PanelButtons) {
-    Press(Qt::Key_Escape);
-    EXPECT_FALSE(guide.isVisible());
     Click(button);
     Press(Qt::Key_F1);
     EXPECT_EQ(Section(), sections[i++]);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(guide.isVisible());
   }
-  Press(Qt::Key_Escape);
 
   Click("ShowUnitsBtn");
   Enter("Buy(1)", "99");
