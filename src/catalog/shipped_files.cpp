@@ -71,7 +71,7 @@ std::string ListFiles(const fs::path& folder) {
   files.erase(shippedList);
   std::string list;
   for (const auto& [name, sum] : files)
-    list += sum + "  " + name + "\n";
+    list.append(sum).append("  ").append(name).append("\n");
   return list;
 }
 
