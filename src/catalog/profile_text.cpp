@@ -124,24 +124,26 @@ std::optional<std::string_view> ProfileText::Find(std::string_view section, std:
   return value->second;
 }
 
-std::vector<ProfileText::KeyLine> ProfileText::KeyLines() const {
-  std::vector<KeyLine> keyLines;
+std::vector<ProfileText::Line> ProfileText::Lines() const {
+  std::vector<Line> lines;
   ByName<ByName<bool>> known;
-  for (std::size_t header = FindHeader(text_, 0); header < text_.size();) {
-    std::string_view rest = text_.substr(header);
-    const std::string_view section = ParseHeaderName(TakeLine(rest));
-    const std::size_t lines = text_.size() - rest.size();
-    header = FindHeader(text_, lines);
-    const bool again = known.contains(section);
-    ByName<bool>& keys = known[section];
-    for (rest = text_.substr(lines, header - lines); !rest.empty();) {
-      const auto line = ParseKeyLine(TakeLine(rest));
-      if (!line) continue;
-      const bool first = keys.try_emplace(line->Name, true).second;
-      keyLines.push_back({section, line->Name, line->Value, again || !first});
+  ByName<bool>* keys = nullptr;  // of the section that can be found
+  std::string_view section;
+  int number = 0;
+  for (std::string_view rest = text_; !rest.empty();) {
+    const std::string_view line = TrimBlanks(TakeLine(rest));
+    ++number;
+    if (line.starts_with('[')) {
+      section = ParseHeaderName(line);
+      const auto [found, isNew] = known.try_emplace(section);
+      keys = isNew ? &found->second : nullptr;
+      lines.push_back({number, true, section, "", "", !isNew});
+    } else if (const auto parsed = ParseKeyLine(line)) {
+      const bool lost = keys == nullptr || !keys->try_emplace(parsed->Name, true).second;
+      lines.push_back({number, false, section, parsed->Name, parsed->Value, lost});
     }
   }
-  return keyLines;
+  return lines;
 }
 
 std::string ProfileText::With(std::string_view section, std::string_view key,

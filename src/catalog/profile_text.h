@@ -30,17 +30,19 @@ class ProfileText {
   /// what has none, like "[]".
   std::optional<std::string_view> Find(std::string_view section, std::string_view key);
 
-  /// A line of the form key=value. A doubled one can't be found: an earlier line, or an earlier
-  /// section of the same name, stands before it.
-  struct KeyLine {
+  /// A line that is not dropped: a section's header, or one of the form key=value. A lost one can't
+  /// be found: no header stands before it, or an earlier line, or section, of its name does.
+  struct Line {
+    int Number = 0;  ///< from 1
+    bool IsHeader = false;
     std::string_view Section;
     std::string_view Key;
     std::string_view Value;
-    bool Doubled = false;
+    bool Lost = false;
   };
 
-  /// All key lines behind the first section header.
-  std::vector<KeyLine> KeyLines() const;
+  /// All headers and key lines.
+  std::vector<Line> Lines() const;
 
   /// A key with its new value.
   struct Entry {

@@ -96,12 +96,16 @@ TEST(ProfileText, ChangesOneLineAndLeavesEveryOtherByte) {
             "[s]\na=4\r\n\n[t]\nb=2\r\nc=6\r\n[u]\r\nd=5\r\n");
 }
 
-TEST(ProfileText, ListsItsKeyLinesAndTellsTheDoubledOnes) {
-  const ProfileText text("[s]\n;b=1\nc= '2' \nd\nC=3\n[T]\nc=4\n[S]\ne=5\n[t]\n"sv);
+TEST(ProfileText, ListsItsLinesAndTellsTheLostOnes) {
+  const ProfileText text("a=1\r\n[s]\r;b=1\nc= '2' \nd\n\nC=3\n [T]\nc=4\n[S]\ne=5\n[t]"sv);
   std::ostringstream lines;
-  for (const auto& [section, key, value, doubled] : text.KeyLines())
-    lines << section << ": " << key << "=" << value << (doubled ? " doubled\n" : "\n");
-  EXPECT_EQ(lines.str(), "s: c=2\ns: C=3 doubled\nT: c=4\nS: e=5 doubled\n");
+  for (const auto& [number, isHeader, section, key, value, lost] : text.Lines()) {
+    lines << number << (lost ? " lost " : " ") << section;
+    lines << (isHeader ? "" : ": ") << key << (isHeader ? "" : "=") << value << "\n";
+  }
+  EXPECT_EQ(lines.str(),
+            "1 lost : a=1\n2 s\n4 s: c=2\n7 lost s: C=3\n8 T\n9 T: c=4\n10 lost S\n"
+            "11 lost S: e=5\n12 lost t\n");
 }
 
 }  // namespace tarnwick

@@ -30,8 +30,9 @@ bool FileCheck::CheckText() const {
   }
   const std::string bytes{std::istreambuf_iterator<char>(in), {}};
   const ProfileText text{std::string_view(bytes)};
-  for (const auto& [section, key, value, doubled] : text.KeyLines()) {
-    if (doubled) Report(section, key, "The key stands here a second time and is never read.");
+  for (const auto& [number, isHeader, section, key, value, lost] : text.Lines()) {
+    if (isHeader || section.data() == nullptr) continue;
+    if (lost) Report(section, key, "The key stands here a second time and is never read.");
     if (value.size() > longestValue) {
       Report(section, key, "The value is longer than 254 bytes; the rest is never read.");
     }
