@@ -3,17 +3,14 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
-#include <vector>
 
-#include "check_catalog/catalog_problem.h"
+#include "check_catalog/finding.h"
+#include "check_catalog/picture_check.h"
 
 namespace tarnwick {
 
-/// Everything that is wrong with the catalogs of a program folder, both modules. `canShow` says
-/// whether a picture file can be read as a picture.
-std::vector<CatalogProblem> CheckCatalogs(
-    const std::filesystem::path& programFolder,
-    const std::function<bool(const std::filesystem::path& picture)>& canShow);
+/// What is wrong with the catalogs of a program folder, or worth knowing of them, both modules, by
+/// file and line.
+Findings CheckCatalogs(const std::filesystem::path& programFolder, const PictureFault& fault);
 
 }  // namespace tarnwick

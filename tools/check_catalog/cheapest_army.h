@@ -10,7 +10,7 @@
 namespace tarnwick {
 
 /// The fewest army points that meet all limits within the rows' maxima, counted as verification
-/// counts; nothing when they can't be met, or are too entangled to say.
+/// counts; nothing when the limits are too many together to say. Each must be within the maxima.
 std::optional<int> CheapestLegalArmy(const std::vector<UnitRec>& units,
                                      const std::vector<LimitRec>& limits);
 
