@@ -48,10 +48,14 @@ class FolderCheck {
     if (pictures_.File().IsMissing()) {
       pictures_.File().ReportMissing(Severity::Error, "no unit has a picture, or can be saved");
     }
+    CatalogFile& brakkaPictures = brakkaPictures_.File();
+    if (brakkaPictures.IsMisplaced()) {
+      brakkaPictures.ReportMissing(Severity::Error, "Brakka has no pictures of its own");
+    }
     if (!brakkaArmies_.IsMissing()) return;
-    brakkaArmies_.ReportMissing(
-        brakkaPictures_.File().IsMissing() ? Severity::Note : Severity::Error,
-        "the second module, Brakka, has no armies");
+    const bool meant = brakkaArmies_.IsMisplaced() || !brakkaPictures.IsMissing();
+    brakkaArmies_.ReportMissing(meant ? Severity::Error : Severity::Note,
+                                "the second module, Brakka, has no armies");
   }
 
   void CheckPictureCount() {

@@ -41,6 +41,10 @@ CatalogFile::CatalogFile(const Disk& disk, std::string name, Findings& findings)
   }
 }
 
+bool CatalogFile::IsMisplaced() const {
+  return isMissing_ && !LookForFile(disk_.ProgramFolder, name_).Remedy.empty();
+}
+
 void CatalogFile::ReportMissing(Severity weight, const std::string& consequence) {
   const auto [what, remedy] = LookForFile(disk_.ProgramFolder, name_);
   Report(weight, "", "",

@@ -28,8 +28,9 @@ class CatalogFile {
 
   /// Whether there is no such file, or none that can be read; that is not reported yet.
   bool IsMissing() const { return isMissing_; }
+  /// Whether a folder lies in the place of the file, or one whose name is the same but for case.
+  bool IsMisplaced() const;
   void ReportMissing(Severity weight, const std::string& consequence);
-
   void Report(Severity weight, std::string_view section, std::string_view key,
               const std::string& sentence);
 

@@ -35,7 +35,8 @@ bool CheckMeasure(CatalogSection& army, const std::string& key, const std::strin
 std::vector<UnitRow> UnitCheck::Check(CatalogSection& army) {
   std::vector<UnitRow> rows;
   std::map<std::string, std::string> keys;
-  for (const CatalogRow& row : army.CheckRows("tot_units", "unit", mostUnits)) {
+  const auto texts = army.CheckRows("tot_units", "unit", mostUnits);
+  for (const CatalogRow& row : texts) {
     const std::string& key = row.Key;
     if (!army.CheckFields(row, "type,class,TQ,size,missile,cost,maximum,abilities", 7)) continue;
     const bool costs = army.CheckWhole(key, "cost", GetField(row.Text, 6), 0, largest);
@@ -51,7 +52,7 @@ std::vector<UnitRow> UnitCheck::Check(CatalogSection& army) {
                 "Type, class, TQ, size and missile are those of " + first->second +
                     ", and loading an army takes the one for the other. Make one of them differ.");
   }
-  if (army.Read("tot_units") == "0") {
+  if (texts.empty()) {
     army.Report(Severity::Error, "tot_units",
                 "Armies without unit rows can't be loaded. Write one.");
   }
