@@ -83,7 +83,7 @@ void CheckPrice(CatalogSection& army, const std::vector<UnitRow>& units,
   }
   std::string names;
   for (const LimitRow& row : limits)
-    names += (names.empty() ? "" : " and ") + row.Key;
+    names += (names.empty() ? "" : ", ") + row.Key;
   army.Report(Severity::Error, "points",
               "The " + std::to_string(points) + " points don't suffice for " + names + ": " +
                   std::to_string(*Cheapest(units, limits)) +
