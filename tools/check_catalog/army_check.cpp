@@ -19,6 +19,23 @@ namespace {
 constexpr int mostLeaders = decltype(CommandPanel::LeaderName)::Last + 1;
 constexpr int cards = 4;
 
+/// Whether loading an army tells the leader `name` from those before it.
+void CheckName(CatalogSection& army, const std::string& key, const std::string& name,
+               const std::vector<LeaderRec>& before) {
+  if (GetField(name, 1, " ").empty()) {
+    army.Report(Severity::Error, key,
+                "Without a first word of its name the leader is loaded for every later one. "
+                "Write a name.");
+  }
+  for (const LeaderRec& other : before) {
+    const std::string word = GetField(other.Name, 1, " ");
+    if (word.empty() || !name.starts_with(word)) continue;
+    army.Report(Severity::Error, key,
+                "The name begins with the first word of \"" + other.Name +
+                    "\", as whom the leader would be loaded. Make the first words differ.");
+  }
+}
+
 std::vector<LeaderRec> CheckLeaders(CatalogSection& army) {
   std::vector<LeaderRec> leaders;
   for (const CatalogRow& row : army.CheckRows("tot_leader", "leader", mostLeaders)) {
@@ -35,18 +52,7 @@ std::vector<LeaderRec> CheckLeaders(CatalogSection& army) {
     const bool cost = army.CheckWhole(key, "cost", GetField(row.Text, 4), 0, largest);
     if (!command || !cost) continue;
     const LeaderRec leader = ParseLeaderRow(row.Text);
-    if (GetField(leader.Name, 1, " ").empty()) {
-      army.Report(Severity::Error, key,
-                  "Without a first word of its name the leader is loaded for every later one. "
-                  "Write a name.");
-      continue;
-    }
-    for (const LeaderRec& other : leaders) {
-      if (!leader.Name.starts_with(GetField(other.Name, 1, " "))) continue;
-      army.Report(Severity::Error, key,
-                  "The name begins with the first word of \"" + other.Name +
-                      "\", as whom the leader would be loaded. Make the first words differ.");
-    }
+    CheckName(army, key, leader.Name, leaders);
     leaders.push_back(leader);
   }
   if (std::ssize(leaders) == mostLeaders) {
