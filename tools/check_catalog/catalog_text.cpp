@@ -52,11 +52,10 @@ void CheckUtf8(const std::string& file, const std::vector<ProfileText::Line>& li
     if (IsUtf8(TextOf(line)) && ++count == 1) first = line.Number;
   }
   if (count == 0) return;
-  findings.push_back(
-      {file, first, Severity::Warning, "", "",
-       "Accented letters stand in UTF-8 here" +
-           (count > 1 ? " and in " + std::to_string(count - 1) + " more lines" : std::string()) +
-           ", and each shows as two or three wrong ones." + saveAs});
+  findings.push_back({file, first, Severity::Warning, "", "",
+                      std::string("Accented letters stand in UTF-8 here") +
+                          (count > 1 ? " and further down" : "") +
+                          ", and each shows as two or three wrong ones." + saveAs});
 }
 
 }  // namespace
