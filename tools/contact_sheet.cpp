@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <string_view>
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -73,8 +74,9 @@ bool DrawSheet(const Disk& disk, const ImageCatalog& catalog, const QString& tar
 
 int main(int argc, char* argv[]) {
   using namespace tarnwick;
-  if (argc != 3) {
-    std::fputs("usage: contact-sheet FOLDER PNG\n", stderr);
+  // No other format keeps the mark.
+  if (argc != 3 || !std::string_view(argv[2]).ends_with(".png")) {
+    std::fputs("usage: contact-sheet FOLDER NAME.png\n", stderr);
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");

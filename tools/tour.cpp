@@ -344,6 +344,11 @@ bool MayReplace(const fs::path& out) {
   return fs::is_directory(out) && (fs::is_empty(out) || fs::exists(out / mark));
 }
 
+bool LiesIn(const fs::path& file, const fs::path& folder) {
+  const fs::path way = fs::weakly_canonical(file).lexically_relative(fs::weakly_canonical(folder));
+  return !way.empty() && *way.begin() != "..";
+}
+
 void LayOut(const fs::path& data, const fs::path& out) {
   fs::remove_all(out);
   fs::create_directories(out);
@@ -363,18 +368,18 @@ int main(int argc, char* argv[]) {
         stderr);
     return 2;
   }
-  const fs::path out = fs::absolute(argv[2]);
-  if (!MayReplace(out)) {
-    std::fprintf(stderr, "tour: %s holds what no tour has made; name a new or an empty folder\n",
-                 out.c_str());
-    return 2;
-  }
   if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
   ApplyStyle();
 
+  const fs::path out = fs::absolute(argv[2]).lexically_normal();
   try {
+    if (!MayReplace(out) || LiesIn(argv[1], out)) {
+      std::fprintf(stderr, "tour: %s holds what no tour has made; name a new or an empty folder\n",
+                   out.c_str());
+      return 2;
+    }
     LayOut(argv[1], out);
   } catch (const fs::filesystem_error& error) {
     std::fprintf(stderr, "tour: %s\n", error.what());

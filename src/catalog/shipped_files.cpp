@@ -8,7 +8,6 @@
 #include <iterator>
 #include <map>
 #include <sstream>
-#include <system_error>
 
 #include "base/ansi.h"
 #include "base/errors.h"
@@ -41,13 +40,37 @@ std::string Checksum(const std::string& bytes) {
   return text;
 }
 
-/// Name and checksum of each file that a list names.
-std::map<std::string, std::string> Parse(const std::string& list) {
-  std::map<std::string, std::string> files;
-  std::istringstream in(list);
-  for (std::string sum, name; in >> sum && std::getline(in >> std::ws, name);)
-    files[name] = sum;
-  return files;
+/// The checksum of each file that a list names.
+using Sums = std::map<std::string, std::string>;
+
+Sums Parse(const std::string& list) {
+  Sums sums;
+  std::istringstream lines(list);
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t gap = line.find("  ");
+    if (gap != std::string::npos) sums[line.substr(gap + 2)] = line.substr(0, gap);
+  }
+  return sums;
+}
+
+std::string ListText(const Sums& sums) {
+  std::string list;
+  for (const auto& [name, sum] : sums)
+    list.append(sum).append("  ").append(name).append("\n");
+  return list;
+}
+
+enum class Stand { Shipped, Laid, Missing, Changed, Deleted };
+
+/// How a file in the program folder stands to what ships with the checksum `sum`, and to what was
+/// laid there last.
+Stand StandOf(const fs::path& file, const std::string& name, const std::string& sum,
+              const Sums& laid) {
+  const auto before = laid.find(name);
+  if (!fs::exists(file)) return before == laid.end() ? Stand::Missing : Stand::Deleted;
+  const std::string here = fs::is_regular_file(file) ? Checksum(BytesOf(file)) : "";
+  if (here == sum) return Stand::Shipped;
+  return before != laid.end() && here == before->second ? Stand::Laid : Stand::Changed;
 }
 
 }  // namespace
@@ -61,50 +84,53 @@ Installation FindInstallation(const fs::path& binary, const fs::path& own) {
 }
 
 std::string ListFiles(const fs::path& folder) {
-  std::map<std::string, std::string> files;
+  Sums sums;
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (entry.is_regular_file()) {
-      files[entry.path().lexically_relative(folder).generic_string()] =
+      sums[entry.path().lexically_relative(folder).generic_string()] =
           Checksum(BytesOf(entry.path()));
     }
   }
-  files.erase(shippedList);
-  std::string list;
-  for (const auto& [name, sum] : files)
-    list.append(sum).append("  ").append(name).append("\n");
-  return list;
+  sums.erase(shippedList);
+  return ListText(sums);
 }
 
 std::vector<std::string> LayFiles(const fs::path& from, const std::string& list,
                                   const fs::path& to) {
-  std::vector<std::string> heldBack;
-  const auto laid = Parse(BytesOf(to / shippedList));
-  for (const auto& [name, sum] : Parse(list)) {
-    const fs::path file = to / name;
-    const auto before = laid.find(name);
-    if (fs::exists(file)) {
-      const std::string here = Checksum(BytesOf(file));
-      if (here == sum) continue;
-      if (before == laid.end() || here != before->second) {
-        heldBack.push_back(name + " (changed here)");
-        continue;
-      }
-    } else if (before != laid.end()) {
-      heldBack.push_back(name + " (deleted here)");
-      continue;
+  std::vector<std::string> heldBack, failed;
+  const auto tryTo = [&failed](const auto& act) {
+    try {
+      act();
+    } catch (const std::exception& error) {
+      failed.emplace_back(error.what());
     }
-    std::error_code error;  // a missing folder is told with the file
-    fs::create_directories(file.parent_path(), error);
-    ReplaceFile(file, ShippedBytes(from / name), Durability::Lasting);
-  }
-  ReplaceFile(to / shippedList, list, Durability::Lasting);
-  return heldBack;
+  };
+  Sums laid = Parse(BytesOf(to / shippedList));
+  const auto lay = [&](const std::string& name, const std::string& sum) {
+    const Stand stand = StandOf(to / name, name, sum, laid);
+    if (stand == Stand::Changed) return heldBack.push_back(name + " (changed here)");
+    if (stand == Stand::Deleted) return heldBack.push_back(name + " (deleted here)");
+    if (stand != Stand::Shipped) {
+      fs::create_directories((to / name).parent_path());
+      ReplaceFile(to / name, ShippedBytes(from / name), Durability::Lasting);
+    }
+    laid[name] = sum;
+  };
+  for (const auto& [name, sum] : Parse(list))
+    tryTo([&, &name = name, &sum = sum] { lay(name, sum); });
+  if (failed.empty()) laid[shippedList] = Checksum(list);
+  tryTo([&] { ReplaceFile(to / shippedList, ListText(laid), Durability::Lasting); });
+  if (failed.empty()) return heldBack;
+  const std::string others = std::to_string(failed.size() - 1);
+  throw FileError(failed.front() + (others == "0" ? "" : " (and " + others + " more)"));
 }
 
 void BringUpToDate(const Installation& installation) {
   if (installation.Shipped.empty()) return;
   const std::string list = BytesOf(installation.Shipped / shippedList);
-  if (list != BytesOf(installation.Program / shippedList)) {
+  const Sums laid = Parse(BytesOf(installation.Program / shippedList));
+  const auto last = laid.find(shippedList);
+  if (last == laid.end() || last->second != Checksum(list)) {
     LayFiles(installation.Shipped, list, installation.Program);
   }
 }

@@ -8,8 +8,9 @@
 
 namespace tarnwick {
 
-/// The list of what was laid into a program folder, in that folder: a line a file, with the
-/// checksum of what shipped and the name. A file that is another by now is the user's own.
+/// The list of what was laid into a program folder, in that folder: a line a file, with checksum
+/// and name; its own name stands for the list that was laid last. A file that is another by now is
+/// the user's own.
 inline constexpr const char* shippedList = "shipped.txt";
 
 /// Where the editor finds what it works on.
@@ -29,7 +30,8 @@ std::string ListFiles(const std::filesystem::path& folder);
 
 /// Brings the files of `from` to the program folder `to`, with their `list`. Files there that are
 /// not what was laid last stay as they are, and what was laid once and is gone stays away. Gives
-/// the files that were held back so, with the reason. Throws FileError; a later call goes on.
+/// the files that were held back so, with the reason. What can't be written does not keep the
+/// others back: FileError tells of it at the end, and a later call tries again.
 std::vector<std::string> LayFiles(const std::filesystem::path& from, const std::string& list,
                                   const std::filesystem::path& to);
 

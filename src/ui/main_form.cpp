@@ -56,6 +56,7 @@ constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
 /// Of the guide, in the order of Panel.
 constexpr std::array sections = {"units.md",  "leaders.md", "description.md", "terrain.md",
                                  "saving.md", "brakka.md",  "setups.md"};
+static_assert(sections.size() == static_cast<std::size_t>(Panel::Setup) + 1);
 
 /// The button takes back, or does again, the step of that name, if there is one.
 void ShowStep(QPushButton* button, const char* does, const std::string& step) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "battlefield/terrain.h"
 
+#include "base/ansi.h"
 #include "base/numbers.h"
 #include "support/fake_host.h"
 #include "support/temp_folder.h"
@@ -37,16 +38,24 @@ struct Terrain : testing::Test {
 TEST_F(Terrain, APieceNeedsItsWholePriceBeforeTheOldOneIsRefunded) {
   const char* const prices[] = {"0|0", "-30|-5", "-60|-10", "-20|0", "-50|-15", "-150|0"};
   const char* const names[] = {"CLEAR", "SLOPE", "CAMP", "WOOD", "MOUNTAIN", "CLIFF"};
-  std::string army = "| army points |", command = "| command points |";
+  std::string army = "| army points |", command = "| command points |", rows;
   for (int kind = 0; kind <= 5; ++kind) {
     State.PointsLeft = State.CommandPts = 0;
     Load(std::string("area1=") + names[kind]);  // charges even below zero
     EXPECT_EQ(Points(), prices[kind]) << names[kind];
-    army += " " + NumberText(Field.TerrainKinds[kind].ArmyCost) + " |";
-    command += " " + NumberText(Field.TerrainKinds[kind].CommandCost) + " |";
+    const std::string armyCost = " " + NumberText(Field.TerrainKinds[kind].ArmyCost) + " |";
+    const std::string commandCost = " " + NumberText(Field.TerrainKinds[kind].CommandCost) + " |";
+    army += armyCost;
+    command += commandCost;
+    rows += names[kind][0] + LowerCase(names[kind] + 1) + " |" + armyCost + commandCost + "\n| ";
   }
-  const std::string told = TempFolder::ReadBytes(SHIPPED_DATA "/../docs/file-formats.md");
-  EXPECT_TRUE(told.find(army + "\n" + command) != std::string::npos) << army << "\n" << command;
+  const auto tells = [](const char* page, const std::string& text) {
+    return TempFolder::ReadBytes(SHIPPED_DATA "/../docs/" + std::string(page)).find(text) !=
+           std::string::npos;
+  };
+  rows.erase(rows.size() - 2);
+  EXPECT_TRUE(tells("file-formats.md", army + "\n" + command)) << army << "\n" << command;
+  EXPECT_TRUE(tells("guide/terrain.md", rows)) << rows;
   State.PointsLeft = 150;
   State.CommandPts = 20;
   EXPECT_EQ(Drop(1, 0), "120|15");

@@ -16,7 +16,6 @@ TEST(ShippedFiles, LeaveAloneWhatTheUserChangedOrDeleted) {
   EXPECT_EQ(lay(), Lines());
   EXPECT_EQ(own.Read("b/Nine Kings.army"), "1");
   EXPECT_EQ(own.Read("c.svg"), "");
-  EXPECT_EQ(own.Read("shipped.txt"), ListFiles(shipped.Path()));
 
   // What is as it was laid is renewed, and once more.
   for (const char* version : {"2", "3"}) {
@@ -29,8 +28,10 @@ TEST(ShippedFiles, LeaveAloneWhatTheUserChangedOrDeleted) {
   shipped.Write("a.dat", "4");
   shipped.Write("friend's.army", "a new one of the name");
   shipped.Write("new.army", "new");
+  std::filesystem::create_directory(own / "d");
+  shipped.Write("d", "a file in the place of a folder");
   const Lines heldBack = {"a.dat (changed here)", "b/Nine Kings.army (deleted here)",
-                          "friend's.army (changed here)"};
+                          "d (changed here)", "friend's.army (changed here)"};
   EXPECT_EQ(lay(), heldBack);
   EXPECT_EQ(lay(), heldBack);
   EXPECT_EQ(own.Read("a.dat"), "my own");
@@ -38,10 +39,15 @@ TEST(ShippedFiles, LeaveAloneWhatTheUserChangedOrDeleted) {
   EXPECT_EQ(own.Read("friend's.army"), "a friend's");
   EXPECT_EQ(own.Read("new.army"), "new");
 
-  // Without the list, what is missing is laid anew.
+  // What is again as it was laid is renewed; a version without the file forgets nothing.
+  own.Write("a.dat", "3");
+  std::filesystem::remove(shipped / "b/Nine Kings.army");
+  EXPECT_EQ(lay(), Lines(heldBack.begin() + 2, heldBack.end()));
+  EXPECT_EQ(own.Read("a.dat"), "4");
+  shipped.Write("b/Nine Kings.army", "2");
+  EXPECT_EQ(lay(), Lines(heldBack.begin() + 1, heldBack.end()));
   std::filesystem::remove(own / "shipped.txt");
-  EXPECT_EQ(lay(), Lines({heldBack.front(), heldBack.back()}));
-  EXPECT_EQ(own.Read("b/Nine Kings.army"), "1");
+  EXPECT_EQ(lay(), Lines(heldBack.begin() + 2, heldBack.end())) << "nothing is known as deleted";
 }
 
 TEST(ShippedFiles, GoToTheUsersFolderWhenInstalledForAll) {
@@ -59,10 +65,18 @@ TEST(ShippedFiles, GoToTheUsersFolderWhenInstalledForAll) {
   usr.Write("share/tarnwick/program/armylist.dat", "2");
   BringUpToDate(find());
   EXPECT_EQ(usr.Read("home/own/armylist.dat"), "1");
+  // What fails keeps nothing else back, and is tried again.
+  usr.Write("share/tarnwick/program/images.dat", "1");
+  usr.Write("share/tarnwick/program/zama.army", "1");
   list();
   std::filesystem::remove(shipped / "armylist.dat");
-  EXPECT_EQ(ErrorOf([&] { BringUpToDate(find()); }),
-            "File " + (shipped / "armylist.dat").string() + " cannot be read");
+  std::filesystem::remove(shipped / "images.dat");
+  const auto error = [&] { return ErrorOf([&] { BringUpToDate(find()); }); };
+  const std::string armies = "File " + (shipped / "armylist.dat").string() + " cannot be read";
+  EXPECT_EQ(error(), armies + " (and 1 more)");
+  EXPECT_EQ(usr.Read("home/own/zama.army"), "1");
+  usr.Write("share/tarnwick/program/images.dat", "1");
+  EXPECT_EQ(error(), armies);
   EXPECT_EQ(usr.Read("home/own/armylist.dat"), "1");
 
   usr.Write("bin/armylist.dat", "");

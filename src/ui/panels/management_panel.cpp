@@ -52,10 +52,10 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   layout->addWidget(fileHint, 1, 2);
   auto* folder = Named(new QPushButton("Open folder", frame), "OpenFolder");
   folder->setToolTip("Show the folder of the army files; armies of friends go there");
-  layout->addWidget(folder, 1, 3);
+  layout->addWidget(folder, 0, 2, Qt::AlignRight);
   layout->setColumnStretch(2, 1);
   auto* warning = NewWarning("FolderWarning", frame);
-  layout->addWidget(warning, 2, 1, 1, 3);
+  layout->addWidget(warning, 2, 1, 1, 2);
 
   bindings_.Add([fileHint, this] {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
