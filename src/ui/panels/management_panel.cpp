@@ -38,7 +38,7 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   auto* name = bindings_.Add(NewTextBox("ArmyName", frame), army_.Management.ArmyName);
   auto* file = bindings_.Add(NewFileNameBox("ArmyFileName", frame), army_.Management.ArmyFileName);
   auto* fileHint = NewHint("NewArmyFile", "", frame);
-  name->setMinimumWidth(TextWidth(name, 48));
+  name->setMinimumWidth(TextWidth(name, 44));
 
   auto* layout = new QGridLayout(frame);
   auto* nameLabel = NewLabel("Label18", "Army &Name", frame);
@@ -52,7 +52,7 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   layout->addWidget(fileHint, 1, 2);
   auto* folder = Named(new QPushButton("Open folder", frame), "OpenFolder");
   folder->setToolTip("Show the folder of the army files; armies of friends go there");
-  layout->addWidget(folder, 0, 2, Qt::AlignRight);
+  layout->addWidget(folder, 0, 2, Qt::AlignLeft);
   layout->setColumnStretch(2, 1);
   auto* warning = NewWarning("FolderWarning", frame);
   layout->addWidget(warning, 2, 1, 1, 2);
