@@ -12,8 +12,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int mostImages = decltype(ImageCatalog::Images)::Last;
-
 /// All catalogs of a program folder.
 class FolderCheck {
  public:

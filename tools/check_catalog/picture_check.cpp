@@ -11,13 +11,8 @@
 #include "rules/unit_types.h"
 
 namespace tarnwick {
-namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int mostImages = decltype(ImageCatalog::Images)::Last;
-
-}  // namespace
 
 std::string KindText(const std::string& type, const std::string& unitClass,
                      const std::string& missile) {

@@ -15,6 +15,9 @@
 
 namespace tarnwick {
 
+/// Rows of all image catalogs together.
+inline constexpr int mostImages = decltype(ImageCatalog::Images)::Last;
+
 /// What keeps a file from being shown as a picture, as "is empty"; "" when nothing does.
 using PictureFault = std::function<std::string(const std::filesystem::path& picture)>;
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr int mostUnits = decltype(ArmyState::BaseUnits)::Last;
 constexpr int mostPerView = decltype(UnitsPanel::Buy)::Last + 1;
-constexpr int mostTq = largest / 30;  // which the percentage of the deck multiplies by
 
 /// Whether `text` is a number that a unit may have. What the editor calculates with ends it when
 /// it is none or too large.

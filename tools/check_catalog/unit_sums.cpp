@@ -9,9 +9,7 @@
 namespace tarnwick {
 namespace {
 
-// What the editor multiplies the sums by stays within 16 bits.
-constexpr int mostUnits = largest / 100;
-constexpr int mostTq = largest / 30;
+constexpr int mostBought = largest / 100;  // the editor works out their percentage of the deck
 
 /// Something that the editor adds up over all units bought.
 struct Sum {
@@ -43,7 +41,7 @@ double Reachable(const Sum& sum, std::vector<UnitRow> rows, double points) {
 }  // namespace
 
 void CheckSums(CatalogSection& army, const std::vector<UnitRow>& rows, int points) {
-  const std::vector<Sum> sums = {{"number of units", mostUnits, [](const UnitRow&) { return 1; }},
+  const std::vector<Sum> sums = {{"number of units", mostBought, [](const UnitRow&) { return 1; }},
                                  {"TQ", mostTq, [](const UnitRow& row) { return row.TqPoints; }},
                                  {"size", largest, [](const UnitRow& row) { return row.Size; }}};
   for (const Sum& sum : sums) {
