@@ -13,6 +13,7 @@ TEST(ShippedFiles, LeaveAloneWhatTheUserChangedOrDeleted) {
   shipped.Write("a.dat", "1");
   shipped.Write("b/Nine Kings.army", "1");
   shipped.Write("c.svg", "");
+  shipped.Write("shipped.txt", "");  // a package's own list is none of the files
   EXPECT_EQ(lay(), Lines());
   EXPECT_EQ(own.Read("b/Nine Kings.army"), "1");
   EXPECT_EQ(own.Read("c.svg"), "");
@@ -57,8 +58,10 @@ TEST(ShippedFiles, GoToTheUsersFolderWhenInstalledForAll) {
   const auto list = [&] { usr.Write("share/tarnwick/program/shipped.txt", ListFiles(shipped)); };
   usr.Write("share/tarnwick/program/armylist.dat", "1");
   EXPECT_EQ(find().Program, binary);
+  EXPECT_EQ(find().Guide, binary / "guide");
   list();
   EXPECT_EQ(find().Program, own);
+  EXPECT_EQ(find().Guide, usr / "share/tarnwick/guide");
   BringUpToDate(find());
   EXPECT_EQ(usr.Read("home/own/armylist.dat"), "1");
   // Files are looked at when there is a new list.
