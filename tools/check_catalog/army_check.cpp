@@ -27,6 +27,12 @@ void CheckName(CatalogSection& army, const std::string& key, const std::string& 
                 "Without a first word of its name the leader is loaded for every later one. "
                 "Write a name.");
   }
+  if (name.size() > 1 && (name.front() == '"' || name.front() == '\'') &&
+      name.back() == name.front()) {
+    army.Report(Severity::Error, key,
+                "The quotes around the name are gone when an army is loaded, and the leader is not "
+                "found. Take them away.");
+  }
   for (const LeaderRec& other : before) {
     const std::string word = GetField(other.Name, 1, " ");
     if (word.empty() || !name.starts_with(word)) continue;
@@ -42,8 +48,9 @@ std::vector<LeaderRec> CheckLeaders(CatalogSection& army) {
     if (!army.CheckFields(row, "name,initiative,command,cost", 4)) continue;
     const std::string& key = row.Key;
     const std::string initiative = GetField(row.Text, 2);
-    if (army.CheckWhole(key, "initiative", initiative, 0, largest) &&
-        (LenientNumber(initiative) < 4 || LenientNumber(initiative) > 7)) {
+    if (const auto number = NumberIn(initiative); number && *number > largest) {
+      army.CheckWhole(key, "initiative", initiative, 4, 7);
+    } else if (!number || *number != Int(*number) || *number < 4 || *number > 7) {
       army.Report(
           Severity::Warning, key,
           "The initiative \"" + initiative + "\" is none that the game knows. Write 4, 5, 6 or 7.");
@@ -98,7 +105,7 @@ void CheckCards(CatalogSection& army) {
 
 void CheckCommandPoints(CatalogSection& army, const std::vector<LeaderRec>& leaders) {
   const std::string text = army.Read("command_pts");
-  if (!army.CheckWhole("command_pts", "number of points", text, 0, largest)) return;
+  if (!army.CheckLeading("command_pts", "number of points", text, 0, largest)) return;
   const Int16 points = LenientInt16(text);
   if (std::ranges::any_of(leaders, [&](const LeaderRec& one) { return one.Cost <= points; })) {
     return;
@@ -115,6 +122,13 @@ void CheckCommandPoints(CatalogSection& army, const std::vector<LeaderRec>& lead
 void ArmyCheck::Check() {
   std::map<std::string, std::string> keys;
   CatalogSection list(armies_, "Armies");
+  if (!armies_.HasSection("Armies")) {
+    list.Report(
+        Severity::Error, "",
+        "There is no section [Armies], so no army is on offer. Write it, with total and the "
+        "names.");
+    return;
+  }
   for (const CatalogRow& row : list.CheckRows("total", "name", largest)) {
     const auto [first, isNew] = keys.try_emplace(LowerCase(Trim(row.Text)), row.Key);
     if (!isNew) {
@@ -128,7 +142,7 @@ void ArmyCheck::Check() {
       CheckArmy(row.Text);
     }
   }
-  units_.CheckPictures();
+  units_.ReportLacks();
   armies_.CheckUnreadSections(
       "No name in [Armies] lists the section, so it is never read. Add one, and raise total.");
   armies_.CheckUnreadKeys(Severity::Warning,
@@ -138,7 +152,7 @@ void ArmyCheck::Check() {
 void ArmyCheck::CheckArmy(const std::string& name) {
   CatalogSection army(armies_, name);
   const std::string text = army.Read("points");
-  const int points = army.CheckWhole("points", "number of points", text, 1, largest)
+  const int points = army.CheckLeading("points", "number of points", text, 1, largest)
                          ? LenientInt16(text).Value()
                          : 0;
   const std::vector<UnitRow> rows = units_.Check(army);

@@ -36,7 +36,9 @@ class FolderCheck {
     if (specials_.IsMissing() && (units.LacksSpecials() || brakkaUnits.LacksSpecials())) {
       specials_.ReportMissing(Severity::Warning, "unit rows name special abilities");
     }
-    if (armies_.IsOpen() && (brakkaArmies_.IsOpen() || brakkaArmies_.IsMissing())) CheckUses();
+    // Where something can't be read, much else seems to be of no use.
+    const bool hasAll = armies_.IsOpen() && (brakkaArmies_.IsOpen() || brakkaArmies_.IsMissing());
+    if (hasAll && !HasErrors(findings_)) CheckUses();
     CheckSpecials(specials_);
   }
 

@@ -73,6 +73,10 @@ std::string CatalogFile::Read(std::string_view section, std::string_view key) {
   return std::string(text_->Find(section, key).value_or("").substr(0, longestValue));
 }
 
+bool CatalogFile::Has(std::string_view section, std::string_view key) {
+  return text_ && !text_->Find(section, key).value_or("").empty();
+}
+
 bool CatalogFile::HasSection(std::string_view name) const {
   return sectionLines_.contains(NameOf(name));
 }
@@ -100,7 +104,7 @@ void CatalogFile::CheckUnreadKeys(Severity weight, const std::string& sentence) 
 
 int CatalogSection::RowsThere(const std::string& word, int most) {
   int count = 0;
-  while (count < most && !Read(RowKey(word, count + 1)).empty())
+  while (count < most && file_->Has(name_, RowKey(word, count + 1)))
     ++count;
   return count;
 }
@@ -113,7 +117,14 @@ int CatalogSection::CheckCount(const std::string& countKey, const std::string& w
            "The count is missing. Write " + countKey + "=" + std::to_string(there) + ".");
     return there;
   }
-  return CheckWhole(countKey, "count", text, 0, most) ? LenientInt16(text).Value() : there;
+  if (!CheckLeading(countKey, "count", text, 0, most)) return there;
+  const int count = LenientInt16(text).Value();
+  if (there > count) {
+    Report(Severity::Error, RowKey(word, count + 1),
+           "The row is beyond " + countKey + "=" + std::to_string(count) +
+               " and is never read. Write " + countKey + "=" + std::to_string(there) + ".");
+  }
+  return std::max(count, there);
 }
 
 std::vector<CatalogRow> CatalogSection::CheckRows(const std::string& countKey,
@@ -170,6 +181,20 @@ bool CatalogSection::CheckWhole(std::string_view key, const std::string& field,
              (text.empty() ? " is missing. Write a " + expected
                            : " \"" + text + "\" is no " + expected + remedy));
   return false;
+}
+
+bool CatalogSection::CheckLeading(std::string_view key, const std::string& field,
+                                  const std::string& text, int least, int most) {
+  const double read = LenientNumber(text);
+  const bool leads = text.find_first_of("0123456789") == 0 && read == Int(read);
+  if (NumberIn(text) || !leads || read < least || read > most) {
+    return CheckWhole(key, field, text, least, most);
+  }
+  const std::string number = NumberText(read);
+  Report(
+      Severity::Warning, key,
+      "The " + field + " \"" + text + "\" is read as " + number + ". Write " + number + " alone.");
+  return true;
 }
 
 }  // namespace tarnwick

@@ -35,6 +35,7 @@ class CatalogFile {
               const std::string& sentence);
 
   std::string Read(std::string_view section, std::string_view key);
+  bool Has(std::string_view section, std::string_view key);
   bool HasSection(std::string_view name) const;
   std::vector<std::string> Sections() const;
 
@@ -75,7 +76,7 @@ class CatalogSection {
   }
 
   /// The rows `word`1 to the count `countKey`, which is at most `most`. Reports those that are
-  /// missing. A count that is wrong counts as the rows that follow each other.
+  /// missing. Rows that follow the last one are given, too, as the count is meant to have them.
   std::vector<CatalogRow> CheckRows(const std::string& countKey, const std::string& word, int most);
 
   /// Whether `row` has at least the first `least` of the fields that `format` names with commas.
@@ -84,6 +85,10 @@ class CatalogSection {
   /// Whether `text`, a field of the row `key`, is a whole number from `least` to `most`.
   bool CheckWhole(std::string_view key, const std::string& field, const std::string& text,
                   int least, int most);
+
+  /// The same where the editor reads the leading number and drops the rest, which is warned of.
+  bool CheckLeading(std::string_view key, const std::string& field, const std::string& text,
+                    int least, int most);
 
  private:
   int RowsThere(const std::string& word, int most);

@@ -96,7 +96,7 @@ void CheckLimits(CatalogSection& army, const std::vector<UnitRow>& rows, int poi
   std::vector<LimitRow> limits;
   for (const CatalogRow& row : army.CheckRows("tot_limits", "limit", mostLimits)) {
     if (!army.CheckFields(row, "type,minimum,class", 2)) continue;
-    if (!army.CheckWhole(row.Key, "minimum", GetField(row.Text, 2), 1, largest)) continue;
+    if (!army.CheckLeading(row.Key, "minimum", GetField(row.Text, 2), 1, largest)) continue;
     const LimitRow limit = {row.Key, ParseLimitRow(row.Text)};
     CheckTypes(army, limit, rows);
     if (CheckReach(army, limit, rows)) limits.push_back(limit);

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include <QGuiApplication>
 #include <QImageReader>
@@ -30,10 +31,12 @@ constexpr const char* help =
     "  --help     prints this\n"
     "  --version  prints the version\n"
     "\n"
-    "The exit status is 0 without errors, 1 with some, 2 when FOLDER is no folder.\n";
+    "The exit status is 0 without errors, 1 with some, 2 when FOLDER can't be read\n"
+    "or the arguments are wrong.\n";
 
 /// What keeps the editor from showing a picture file.
 std::string FaultOf(const std::filesystem::path& picture) {
+  if (std::filesystem::is_empty(picture)) return "is empty";
   QImageReader reader(QString::fromStdU16String(picture.u16string()));
   const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
   if (reader.error() != QImageReader::UnknownError) {  // which stands for none, too
@@ -70,12 +73,14 @@ int main(int argc, char* argv[]) {
     std::printf("check-catalog %s\n", tarnwick::VersionText({}).c_str());
     return 0;
   }
-  if (argument.empty() || argument.starts_with("--")) {
+  if (argument.empty() || argument.starts_with("-")) {
     std::fputs(help, stderr);
     return 2;
   }
-  if (!std::filesystem::is_directory(argument)) {
-    std::fprintf(stderr, "check-catalog: \"%s\" is no folder.\n", argv[1]);
+  std::error_code error;
+  if (std::filesystem::directory_iterator(argument, error); error) {
+    std::fprintf(stderr, "check-catalog: \"%s\" is no folder that can be read: %s\n", argv[1],
+                 error.message().c_str());
     return 2;
   }
   // Pictures with text in them need one, and nobody sees it.

@@ -40,6 +40,9 @@ MissingFile LookForFile(const fs::path& folder, std::string_view name) {
     return {"is a folder", "Rename the folder and put the file there."};
   }
   if (FileExists(path)) return {"can't be opened", "Give yourself the right to read it."};
+  if (fs::exists(fs::symlink_status(path, error))) {
+    return {"is a broken link or no ordinary file", "Put the file itself there."};
+  }
   const fs::path other = OtherCase(folder, path.lexically_relative(folder));
   if (other.empty()) return {"is missing", ""};
   return {"is missing", "\"" + AnsiFromPath(other.generic_string()) +

@@ -28,6 +28,12 @@ PictureCheck::PictureCheck(const Disk& disk, bool brakka, Findings& findings)
 
 void PictureCheck::CheckRows(const PictureFault& fault) {
   if (!file_.IsOpen()) return;
+  if (!file_.HasSection("IMAGES")) {
+    section_.Report(Severity::Error, "",
+                    "There is no section [IMAGES], so there are no pictures. Write it, with total "
+                    "and the rows.");
+    return;
+  }
   for (const CatalogRow& row : section_.CheckRows("total", "image", mostImages)) {
     const auto report = [&](Severity weight, const std::string& sentence) {
       section_.Report(weight, row.Key, sentence);
@@ -67,10 +73,15 @@ int PictureCheck::RowCount() {
 void PictureCheck::CheckFile(const std::string& key, const std::string& id,
                              const PictureFault& fault) {
   const fs::path file = PictureFile(disk_, brakka_, id);
-  if (!FileExists(file)) {
+  if (id.empty()) {
+    section_.Report(Severity::Error, key, "The row names no picture. Write its file.");
+  } else if (!FileExists(file)) {
+    const fs::path folder = file.parent_path();
+    if (!fs::exists(folder) && !missingFolders_.insert(folder).second) return;
     auto [what, remedy] = LookForFile(disk_.ProgramFolder, id);
     if (remedy.empty()) remedy = LookForFile(disk_.ModuleFolder(brakka_), id).Remedy;
     if (remedy.empty()) remedy = "Put the file there, or mend its name.";
+    if (!fs::exists(folder)) remedy += " The whole folder is missing.";
     section_.Report(Severity::Error, key, "The picture \"" + id + "\" " + what + ". " + remedy);
   } else if (const std::string what = fault(file); !what.empty()) {
     section_.Report(Severity::Error, key,
@@ -79,7 +90,8 @@ void PictureCheck::CheckFile(const std::string& key, const std::string& id,
 }
 
 bool PictureCheck::Fits(const UnitRec& unit) {
-  bool fits = !file_.IsOpen() && !(brakka_ && file_.IsMissing());
+  const bool isRead = file_.IsOpen() && file_.HasSection("IMAGES");
+  bool fits = !isRead && !(brakka_ && file_.IsMissing());
   for (Picture& picture : pictures_) {
     if (!PictureFits(picture.Image, unit.UnitType, unit.UnitClass, unit.Missile)) continue;
     fits = picture.InUse = true;
@@ -109,6 +121,8 @@ void CheckStrayPictures(const Disk& disk, const std::set<fs::path>& named, Findi
     names.insert(LowerCase(AnsiFromPath(file)));
   }
   for (const fs::path& folder : folders) {
+    const fs::path way = folder.lexically_relative(disk.ProgramFolder);
+    if (way.empty() || *way.begin() == "..") continue;  // others' pictures
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error)) {
       const std::string name = LowerCase(AnsiFromPath(entry.path()));

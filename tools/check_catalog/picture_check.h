@@ -60,6 +60,7 @@ class PictureCheck {
   CatalogFile file_;
   CatalogSection section_;
   std::vector<Picture> pictures_;
+  std::set<std::filesystem::path> missingFolders_;  ///< that were reported
 };
 
 /// Pictures that lie beside those in `named` and are none of them.

@@ -79,16 +79,24 @@ void UnitCheck::CheckIdentity(CatalogSection& army, const UnitRow& row) {
   const auto fitting = std::ranges::count_if(
       pictures_, [&unit](PictureCheck* pictures) { return pictures->Fits(unit); });
   if (fitting > 0) return;
-  const auto lack = lacks_.try_emplace(KindText(unit.UnitType, unit.UnitClass, unit.Missile),
-                                       Lack{army, row.Key});
-  ++lack.first->second.Rows;
+  const std::string kind = KindText(unit.UnitType, unit.UnitClass, unit.Missile);
+  ++lacks_.try_emplace(kind, Lack{army, row.Key}).first->second.Rows;
 }
 
-void UnitCheck::CheckPictures() {
+void UnitCheck::ReportLacks() {
+  for (auto& [group, lack] : groups_) {
+    lack.Army.Report(Severity::Warning, lack.Key,
+                     "The special abilities \"" + group + "\" of this row" + lack.Others() +
+                         " are no section of specials.dat. Write it there, or mend the name.");
+  }
+  CatalogFile& own = pictures_.front()->File();
+  if (own.IsMissing() && !own.IsMisplaced() && !lacks_.empty()) {
+    own.ReportMissing(Severity::Error, "units have no picture, and saving one ends the editor");
+    return;
+  }
   for (auto& [kind, lack] : lacks_) {
-    const std::string others = " and " + std::to_string(lack.Rows - 1) + " more";
     lack.Army.Report(Severity::Error, lack.Key,
-                     "No picture has " + kind + " of this row" + (lack.Rows > 1 ? others : "") +
+                     "No picture has " + kind + " of this row" + lack.Others() +
                          ", and saving such a unit ends the editor. Add one.");
   }
 }
@@ -127,9 +135,7 @@ void UnitCheck::CheckGroup(CatalogSection& army, const UnitRow& row) {
   if (!specials_.IsOpen()) {
     lacksSpecials_ = true;
   } else if (!specials_.HasSection(group)) {
-    army.Report(Severity::Warning, row.Key,
-                "The special abilities \"" + group +
-                    "\" are no section of specials.dat. Write it there, or mend the name.");
+    ++groups_.try_emplace(group, Lack{army, row.Key}).first->second.Rows;
   }
 }
 

@@ -34,18 +34,22 @@ class UnitCheck {
   /// Gives the rows that can be bought.
   std::vector<UnitRow> Check(CatalogSection& army);
 
-  /// The kinds of units that no picture shows, each once.
-  void CheckPictures();
+  /// The kinds of units that no picture shows, and the special abilities that are none, each once.
+  void ReportLacks();
 
   /// Whether a row names special abilities though there are none.
   bool LacksSpecials() const { return lacksSpecials_; }
 
  private:
-  /// The first of the rows that no picture is for.
+  /// The first of the rows that lack the same.
   struct Lack {
     CatalogSection Army;
     std::string Key;
     int Rows = 0;
+
+    std::string Others() const {
+      return Rows > 1 ? " and " + std::to_string(Rows - 1) + " more" : "";
+    }
   };
 
   void CheckIdentity(CatalogSection& army, const UnitRow& row);
@@ -56,8 +60,9 @@ class UnitCheck {
   const Disk& disk_;
   CatalogFile& specials_;
   std::vector<PictureCheck*> pictures_;
-  ArmyState state_;                    ///< its first row is the one that the rules are asked about
-  std::map<std::string, Lack> lacks_;  ///< by what no picture has
+  ArmyState state_;                     ///< its first row is the one that the rules are asked about
+  std::map<std::string, Lack> lacks_;   ///< by what no picture has
+  std::map<std::string, Lack> groups_;  ///< by the group that specials.dat has not
   bool lacksSpecials_ = false;
 };
 
