@@ -76,12 +76,13 @@ void PictureCheck::CheckFile(const std::string& key, const std::string& id,
   if (id.empty()) {
     section_.Report(Severity::Error, key, "The row names no picture. Write its file.");
   } else if (!FileExists(file)) {
-    const fs::path folder = file.parent_path();
-    if (!fs::exists(folder) && !missingFolders_.insert(folder).second) return;
+    std::error_code error;  // a folder that may not be looked into is none
+    const bool hasFolder = fs::exists(file.parent_path(), error);
+    if (!hasFolder && !missingFolders_.insert(file.parent_path()).second) return;
     auto [what, remedy] = LookForFile(disk_.ProgramFolder, id);
     if (remedy.empty()) remedy = LookForFile(disk_.ModuleFolder(brakka_), id).Remedy;
     if (remedy.empty()) remedy = "Put the file there, or mend its name.";
-    if (!fs::exists(folder)) remedy += " The whole folder is missing.";
+    if (!hasFolder) remedy += " The whole folder is missing.";
     section_.Report(Severity::Error, key, "The picture \"" + id + "\" " + what + ". " + remedy);
   } else if (const std::string what = fault(file); !what.empty()) {
     section_.Report(Severity::Error, key,
