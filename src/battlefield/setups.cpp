@@ -26,7 +26,7 @@ constexpr int places = 9;
 constexpr std::string_view storedLineBreak = "\\n";
 
 fs::path ScratchFile(const Disk& disk) {
-  return disk.ProgramFolder / "working.setup";
+  return disk.ScratchFolder / "working.setup";
 }
 
 std::string SectionOf(Int16 number) {
@@ -94,14 +94,22 @@ void RestoreScratch(const Disk& disk, const std::optional<std::string>& bytes) {
   }
 }
 
-void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number) {
-  SetupPanel& panel = field.Setup;
+StoredSetup ReadSetup(const Disk& disk, Int16 number) {
   const auto read = [&](const std::string& key) {
     return disk.Files.ReadIniString(SectionOf(number), key, ScratchFile(disk));
   };
-  panel.description.Text = ReplaceText(storedLineBreak, CrLf, Trim(read("description")));
-  for (Int16 i = 0; i < places; ++i)
-    panel.unit[i].Caption = read(RowKey("field", i + 1));
+  StoredSetup setup = {number, ReplaceText(storedLineBreak, CrLf, Trim(read("description"))), {}};
+  for (Int16 k; std::string & unit : setup.Units)
+    unit = read(RowKey("field", ++k));
+  return setup;
+}
+
+void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number) {
+  SetupPanel& panel = field.Setup;
+  const StoredSetup setup = ReadSetup(disk, number);
+  panel.description.Text = setup.Description;
+  for (int i = 0; Label & place : panel.unit)
+    place.Caption = setup.Units.at(static_cast<std::size_t>(i++));
   panel.setupFramePanel.Visible = true;
   FillDeployList(field, state);
 }

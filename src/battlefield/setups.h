@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/host.h"
 #include "base/int16.h"
@@ -14,7 +16,7 @@
 
 namespace tarnwick {
 
-// The army's setups live in the scratch file "working.setup" of the program folder, one section a
+// The army's setups live in the scratch file "working.setup" of the scratch folder, one section a
 // setup, and every edit goes there at once. Loading and saving an army copies setups 1 to 20.
 
 /// Rebuilds scratch file and setup list from the army file `army`. Throws FileError when the old
@@ -30,6 +32,15 @@ std::optional<std::string> StoredScratch(const Disk& disk);
 
 /// Puts the scratch file back as it was. A failed write is silent.
 void RestoreScratch(const Disk& disk, const std::optional<std::string>& bytes);
+
+/// A setup as the scratch file has it.
+struct StoredSetup {
+  Int16 Number;
+  std::string Description;
+  std::array<std::string, 9> Units;  ///< by place, as IdentityText has them; "" for none
+};
+
+StoredSetup ReadSetup(const Disk& disk, Int16 number);
 
 /// Shows setup `number` as the scratch file has it. Nothing is written.
 void LoadSetup(Battlefield& field, const ArmyState& state, const Disk& disk, Int16 number);

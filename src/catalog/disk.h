@@ -14,7 +14,8 @@ namespace tarnwick {
 
 /// Where the editor's files are, and the way to what they hold.
 struct Disk {
-  explicit Disk(std::filesystem::path programFolder) : ProgramFolder(std::move(programFolder)) {}
+  explicit Disk(std::filesystem::path programFolder)
+      : ProgramFolder(std::move(programFolder)), ScratchFolder(ProgramFolder) {}
 
   /// A module's own folder: the program folder, or "brakka" in it.
   std::filesystem::path ModuleFolder(bool brakkaMode) const {
@@ -22,6 +23,7 @@ struct Disk {
   }
 
   std::filesystem::path ProgramFolder;  ///< holds the catalogs and the army files
+  std::filesystem::path ScratchFolder;  ///< holds the setups of the working army
   ProfileFiles Files;
 };
 

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "sheet/unit_sheet.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+
+#include "base/ansi.h"
+#include "base/numbers.h"
+#include "catalog/special_abilities.h"
+#include "rules/unit_grid.h"
+#include "sheet/html.h"
+
+namespace tarnwick {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int pictureSide = 26;
+
+/// Codes with their meanings.
+using Abilities = std::map<std::string, std::string>;
+
+/// The unit's special abilities as a list; adds them to those to be explained.
+std::string TakeAbilities(const UnitRec& unit, const SpecialAbilities& catalog,
+                          Abilities& abilities) {
+  std::string list;
+  for (const std::string& code : catalog.Codes(unit.SpecialsKey)) {
+    abilities.emplace(code, catalog.Meaning(code));
+    list += (list.empty() ? "" : ", ") + code;
+  }
+  return list;
+}
+
+std::string UnitName(const ArmyState& army, const UnitRec& unit, Int16 image) {
+  std::string name = Element("b", HtmlText(unit.UnitType + " " + unit.UnitClass));
+  if (image > 0) name += HtmlText(army.Catalog.Images[image].Name);
+  return name;
+}
+
+std::string Footnotes(const Abilities& abilities) {
+  std::string notes;
+  for (const auto& [code, meaning] : abilities) {
+    if (meaning.empty()) continue;
+    notes += Element("p class=\"small\"", Element("b", HtmlText(code)) + HtmlText(meaning));
+  }
+  return notes;
+}
+
+}  // namespace
+
+std::string UnitSheet(const ArmyState& army, const Disk& disk) {
+  const SpecialAbilities catalog(disk);
+  Abilities abilities;
+  std::string rows;
+  int units = 0;
+  for (Int16 r = 1; r <= army.TotUnits; ++r) {
+    const UnitRec& unit = army.BaseUnits[r];
+    if (unit.Bought == 0) continue;
+    units += unit.Bought.Value();
+    const Int16 image = PictureOf(army, r);
+    const std::string cells[] = {NumberText(unit.Bought),
+                                 UnitPicture(army, disk, image, pictureSide),
+                                 UnitName(army, unit, image),
+                                 HtmlText(unit.TQ),
+                                 HtmlText(unit.Size),
+                                 HtmlText(unit.Missile),
+                                 HtmlText(TakeAbilities(unit, catalog, abilities)),
+                                 std::to_string(unit.Bought.Value() * unit.Cost.Value())};
+    std::string row;
+    for (const std::string& cell : cells)
+      row += Element("td", cell);
+    rows += Element("tr", row);
+  }
+  if (rows.empty()) return Element("p", "No units yet.");
+  return Element("h2", std::to_string(units) + (units == 1 ? " unit" : " units")) +
+         Element("table class=\"rows\" width=\"100%\" cellpadding=\"1\"",
+                 Element("thead",
+                         "<tr><th></th><th></th><th>Unit</th><th>TQ</th><th>Size</th>"
+                         "<th>Missile</th><th>Special abilities</th><th>Points</th></tr>") +
+                     Element("tbody", rows)) +
+         Footnotes(abilities);
+}
+
+std::string UnitPicture(const ArmyState& army, const Disk& disk, Int16 image, int side) {
+  if (image < 1 || image > army.Catalog.TotImages) return "";
+  const std::string& id = army.Catalog.Images[image].Id;
+  const fs::path name = PathIn("", id);
+  const std::string type = LowerCase(name.extension().string());
+  const bool leaves = std::ranges::find(name, "..") != name.end();
+  if (leaves || (type != ".svg" && type != ".png")) return "";
+  std::ifstream in(PictureFile(disk, army.BrakkaMode, id), std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  return bytes.empty() ? "" : PictureElement(type == ".svg" ? "svg+xml" : "png", bytes, side);
+}
+
+}  // namespace tarnwick
