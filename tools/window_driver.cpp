@@ -111,7 +111,7 @@ void WindowDriver::Watch() {
 }
 
 QWidget* WindowDriver::FindWidget(const QString& name, bool seen) const {
-  QWidget* front = busyWith_ != nullptr ? busyWith_ : QApplication::activeModalWidget();
+  QWidget* front = !busyWith_.empty() ? busyWith_.last() : QApplication::activeModalWidget();
   const QList<QWidget*> windows = front ? QList{front} : QApplication::topLevelWidgets();
   for (QWidget* window : windows) {
     if (!window->isVisible()) continue;
@@ -126,8 +126,8 @@ QWidget* WindowDriver::FindWidget(const QString& name, bool seen) const {
 /// The window that a user would be typing into. Without a window manager nobody makes the one
 /// below active again when a dialog closes, so this does.
 QWindow* WindowDriver::FrontWindow() const {
-  if (busyWith_ != nullptr && !busyWith_->isVisible()) {
-    Fail(busyWith_->objectName() + " closed before the end of its script");
+  if (!busyWith_.empty() && !busyWith_.last()->isVisible()) {
+    Fail(busyWith_.last()->objectName() + " closed before the end of its script");
   }
   QWidget* front = QApplication::activePopupWidget();
   if (front == nullptr) front = QApplication::activeModalWidget();
@@ -326,8 +326,8 @@ void WindowDriver::Settle() {
 
 void WindowDriver::AnswerModal() {
   QWidget* modal = QApplication::activeModalWidget();
-  if (modal == nullptr || modal == busyWith_ || !modal->isVisible()) return;
-  QWidget* const before = std::exchange(busyWith_, modal);
+  if (modal == nullptr || busyWith_.contains(modal) || !modal->isVisible()) return;
+  busyWith_.append(modal);
   Settle();
   if (see_) see_(*modal);
   if (auto* box = qobject_cast<QMessageBox*>(modal)) {
@@ -336,7 +336,7 @@ void WindowDriver::AnswerModal() {
     if (button != nullptr) answers_.pop_front();
     if (button == nullptr) button = box->button(QMessageBox::Ok);
     if (button == nullptr) button = box->button(QMessageBox::Cancel);
-    busyWith_ = before;
+    busyWith_.removeLast();
     ClickAt(*button, button->rect().center());
     return;
   }
@@ -353,7 +353,7 @@ void WindowDriver::AnswerModal() {
     messages_.append("(" + modal->objectName() + " left open)");
     modal->close();
   }
-  busyWith_ = before;
+  busyWith_.removeLast();
 }
 
 }  // namespace tarnwick

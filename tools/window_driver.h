@@ -123,7 +123,7 @@ class WindowDriver {
   QStringList messages_;
   std::list<Script> scripts_;
   std::function<void(QWidget&)> see_;
-  QWidget* busyWith_ = nullptr;  ///< the dialog that is being worked
+  QWidgetList busyWith_;  ///< the dialogs that are being worked, each opened by the one before
   std::list<QMessageBox::StandardButton> answers_;
 };
 

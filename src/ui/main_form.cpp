@@ -51,7 +51,8 @@ constexpr std::pair<const char*, std::array<const char*, 2>> shortcuts[] = {
     {"Ctrl+5", {"ShowSetup"}},
     {"Ctrl+6", {"ShowSaveFrame"}},
     {"Ctrl+N", {"ShowSaveFrame", "NewArmyBtn"}},
-    {"Ctrl+O", {"ShowSaveFrame", "LoadBtn"}}};
+    {"Ctrl+O", {"ShowSaveFrame", "LoadBtn"}},
+    {"Ctrl+P", {"SheetBtn"}}};
 
 /// Of the guide, in the order of Panel.
 constexpr std::array sections = {"units.md",  "leaders.md", "description.md", "terrain.md",

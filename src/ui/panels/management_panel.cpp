@@ -10,6 +10,7 @@
 
 #include "armyfile/warnings.h"
 #include "base/ansi.h"
+#include "ui/dialogs/sheet_preview.h"
 #include "ui/parts/widgets.h"
 
 namespace tarnwick {
@@ -90,11 +91,14 @@ QWidget* ManagementPanelWidget::NewButtons() {
   auto* newArmy = add("NewArmyBtn", "New &army", "Begin from a base army", "Ctrl+N");
   auto* load = add("LoadBtn", "L&oad army", "Open a saved army", "Ctrl+O");
   auto* save = add("SaveBtn", "Sa&ve Army", "Write the army to its file", "Ctrl+S");
+  auto* sheet =
+      add("SheetBtn", "Army s&heet", "Print the army, or save it as PDF or HTML", "Ctrl+P");
   auto* warning = NewWarning("BaseArmyWarning", row);
   layout->addWidget(warning, layout->rowCount(), 0, 1, 4);
   layout->setColumnStretch(3, 1);
   bindings_.Add([this, warning] { ShowWarning(warning, BaseArmyWarning(army_)); });
   session_.Connect(newArmy, Step("New army"), [this] { NewArmyBtn_Click(work_, disk_, user_); });
+  session_.Connect(sheet, [this] { ShowSheet(work_, disk_, window()); });
   connect(load, &QPushButton::clicked, this, [this] { session_.Load(); });
   connect(save, &QPushButton::clicked, this, [this] { session_.Save(); });
   return row;

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "ui/dialogs/sheet_preview.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QToolBar>
+
+#include "base/errors.h"
+#include "catalog/file_replacement.h"
+#include "sheet/army_sheet.h"
+#include "ui/parts/message_box.h"
+#include "ui/parts/qt_text.h"
+#include "ui/parts/sheet_pages.h"
+#include "ui/parts/widgets.h"
+
+namespace tarnwick {
+namespace {
+
+/// High enough for a whole page that can be read.
+constexpr QSize previewSize(900, 900);
+
+/// The file that the user names, or nothing when he does not; `ending` is added where it misses.
+std::filesystem::path AskForFile(const QString& name, const QString& ending, QWidget* parent) {
+  QFileDialog dialog(parent, "Save as " + ending.toUpper());
+  dialog.setObjectName("SaveSheetForm");
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(ending);
+  dialog.setNameFilter("*." + ending);
+  dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  dialog.selectFile(QString(name).replace('/', '-') + "." + ending);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.selectedFiles().value(0).toStdU16String();
+}
+
+/// Saves what `make` makes under a name that the user chooses.
+void SaveAs(const QString& name, const QString& ending, const std::function<std::string()>& make,
+            QWidget* parent) {
+  const std::filesystem::path file = AskForFile(name, ending, parent);
+  if (file.empty()) return;
+  try {
+    ReplaceFile(file, make(), Durability::Lasting);
+  } catch (const FileError& error) {  // the army is as safe as before
+    ShowBox(QMessageBox::Warning, error.what());
+  }
+}
+
+}  // namespace
+
+void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
+  const std::string title = SheetTitle(work);
+  const QString name = ToQt(title);
+  const std::string html = SheetPage(title, {ArmySheet(work, disk, ReadTerrainPictures())});
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageMargins(sheetMargins, QPageLayout::Millimeter);
+  printer.setDocName(name);
+  QPrintPreviewDialog preview(&printer, parent);
+  preview.setObjectName("SheetForm");
+  preview.setWindowTitle("Army sheet");
+  preview.resize(previewSize.boundedTo(preview.screen()->availableSize()));
+  QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                   [&html](QPrinter* paper) { PrintSheets(html, *paper); });
+  auto* bar = preview.findChild<QToolBar*>();
+  const auto add = [&](const char* object, const QString& ending,
+                       const std::function<std::string()>& make) {
+    auto* action = Named(bar->addAction("Save as " + ending.toUpper() + "..."), object);
+    QObject::connect(action, &QAction::triggered, &preview,
+                     [&, ending, make] { SaveAs(name, ending, make, &preview); });
+  };
+  add("SavePdf", "pdf", [&] { return SheetPdf(html, name, printer.pageLayout()); });
+  add("SaveHtml", "html", [&] { return html; });
+  preview.exec();
+}
+
+}  // namespace tarnwick
