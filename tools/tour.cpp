@@ -43,6 +43,7 @@ class Tour {
     Load();
     Deploy();
     SaveAgainAndDelete();
+    LookAtTheSheet();
     LookAtBrakka();
   }
 
@@ -103,6 +104,7 @@ class Tour {
   void Load();
   void Deploy();
   void SaveAgainAndDelete();
+  void LookAtTheSheet();
   void LookAtBrakka();
 
   MainForm& form_;
@@ -301,6 +303,16 @@ void Tour::SaveAgainAndDelete() {
   driver_.Click("LoadBtn");
   Expect({"Do You really want to delete the army Copy ?"});
   ExpectText("TotalCost", "Points left: 5 of 400");
+}
+
+void Tour::LookAtTheSheet() {
+  std::puts("The army on paper");
+  driver_.OnDialog([this] {
+    TakePicture(driver_.Find("SheetForm"), "sheet");
+    Illustrate("sheet", "SheetForm");
+    driver_.CloseDialog();
+  });
+  driver_.Press(Qt::Key_P, Qt::ControlModifier);
 }
 
 void Tour::LookAtBrakka() {

@@ -29,8 +29,8 @@ table.rows th { border-bottom: 1px solid #000000; text-align: left; font-size: 8
 table.rows td { border-bottom: 1px solid #bbbbbb; vertical-align: middle; }
 table.plan th { border-bottom: 1px solid #000000; text-align: left; font-size: 7pt; }
 table.plan td { font-size: 7pt; }
-td.number { text-align: right; }
-td.label { color: #444444; }
+td.half { padding-right: 14px; vertical-align: top; }
+td.label { color: #444444; padding-right: 8px; }
 p.small { font-size: 7pt; margin: 1px 0; }
 tr { break-inside: avoid; }
 h2 { break-after: avoid; }
@@ -93,12 +93,12 @@ std::string Facts(const WorkingArmy& work, const ArmySummary& summary) {
   const ArmyHeader& header = work.Header;
   const bool hasBase = !army.BaseArmyName.empty();
   return FactTable({{"Base army", hasBase ? army.BaseArmyName : "none"},
+                    {"Leader", LeaderLine(army)},
                     {"Author", header.ArmyAuthor},
                     {"Period", PeriodText(header.ArmyPeriod)},
                     {"Type", TypeText(header)},
                     {"Special rules", ReplaceText(",", ", ", SpecialRulesText(header))}},
-                   {{"Leader", LeaderLine(army)},
-                    {"Army points", BudgetText(summary.Army)},
+                   {{"Army points", BudgetText(summary.Army)},
                     {"Command points", BudgetText(summary.Command)},
                     {"Troop quality", army.Units.TQinfo.Caption},
                     {"Cards", summary.Cards},

@@ -13,7 +13,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr int areaSide = 40;
+constexpr int areaSide = 32;
 
 std::string AreaCell(const Battlefield& field, const TerrainPictures& pictures, int area) {
   const std::string& name = field.AreaTerrain[area];

@@ -74,7 +74,7 @@ std::string TwoInARow(const std::vector<std::string>& parts) {
   for (std::size_t i = 0; i < parts.size(); i += 2) {
     std::string cells;
     for (std::size_t k = i; k < i + 2; ++k)
-      cells += Element("td width=\"50%\" valign=\"top\"", k < parts.size() ? parts[k] : "");
+      cells += Element("td class=\"half\" width=\"50%\"", k < parts.size() ? parts[k] : "");
     rows += Element("tr", cells);
   }
   return rows.empty() ? "" : Element("table class=\"below\" width=\"100%\"", rows);

@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int pictureSide = 26;
+constexpr int pictureSide = 22;
 
 /// Codes with their meanings.
 using Abilities = std::map<std::string, std::string>;

@@ -26,7 +26,7 @@ namespace tarnwick {
 namespace {
 
 /// High enough for a whole page that can be read.
-constexpr QSize previewSize(900, 900);
+constexpr QSize previewSize(960, 900);
 
 /// The file that the user names, or nothing when he does not; `ending` is added where it misses.
 std::filesystem::path AskForFile(const QString& name, const QString& ending, QWidget* parent) {
@@ -69,6 +69,7 @@ void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
                    [&html](QPrinter* paper) { PrintSheets(html, *paper); });
   auto* bar = preview.findChild<QToolBar*>();
+  bar->setIconSize(QSize(16, 16));  // all of it fits on a small screen
   const auto add = [&](const char* object, const QString& ending,
                        const std::function<std::string()>& make) {
     auto* action = Named(bar->addAction("Save as " + ending.toUpper() + "..."), object);

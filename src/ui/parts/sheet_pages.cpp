@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPagedPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QScreen>
@@ -21,17 +22,18 @@
 namespace tarnwick {
 namespace {
 
-/// Enough dots for the largest picture of a sheet on a good printer.
-constexpr QSize pictureDots(256, 256);
+/// How many dots a picture is wide and high: enough for print, not too many for the preview, which
+/// leaves most of them out.
+constexpr int printedDots = 128, previewedDots = 52;
 
 /// The picture inside a data URL.
-QImage DecodePicture(const QString& url) {
+QImage DecodePicture(const QString& url, int dots) {
   QByteArray bytes = QByteArray::fromBase64(url.mid(url.indexOf(',') + 1).toLatin1());
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer);
-  const QSize size = reader.size().scaled(pictureDots, Qt::KeepAspectRatio);
+  const QSize size = reader.size().scaled(dots, dots, Qt::KeepAspectRatio);
   reader.setScaledSize(size);
-  QImage picture(pictureDots, QImage::Format_ARGB32_Premultiplied);
+  QImage picture(dots, dots, QImage::Format_ARGB32_Premultiplied);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.drawImage((picture.width() - size.width()) / 2, (picture.height() - size.height()) / 2,
@@ -40,11 +42,17 @@ QImage DecodePicture(const QString& url) {
 }
 
 class SheetText : public QTextDocument {
+ public:
+  explicit SheetText(bool previewed) : dots_(previewed ? previewedDots : printedDots) {}
+
  protected:
   QVariant loadResource(int type, const QUrl& url) override {
     const bool inside = type == ImageResource && url.scheme() == "data";
-    return inside ? QVariant(DecodePicture(url.toString())) : QVariant();
+    return inside ? QVariant(DecodePicture(url.toString(), dots_)) : QVariant();
   }
+
+ private:
+  int dots_;
 };
 
 /// Where the row stands on the endless page, with all that is in its cells.
@@ -105,7 +113,7 @@ bool PrintSheets(const std::string& html, QPagedPaintDevice& device) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  SheetText text;
+  SheetText text(device.paintEngine()->type() == QPaintEngine::Picture);
   text.setDocumentMargin(0);
   text.documentLayout()->setPaintDevice(&device);
   text.setHtml(QString::fromStdString(html));
