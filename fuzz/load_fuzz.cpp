@@ -2,81 +2,23 @@
 // SPDX-License-Identifier: MIT
 // Loads the input as an army file, on a small catalog, and saves what came of it.
 
-#include <chrono>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
-#include <string_view>
-#include <unistd.h>
 
-#include "armyfile/loading.h"
 #include "armyfile/saving.h"
 #include "base/errors.h"
-
-namespace {
-
-namespace fs = std::filesystem;
-
-/// Writes a file that looks a minute old, so that no look-up has to read it again.
-void WriteFile(const fs::path& path, std::string_view bytes) {
-  std::ofstream(path, std::ios::binary)
-      .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(1));
-}
-
-/// A user who picks the one army there is and says OK to everything.
-class PickingHost : public tarnwick::Host {
- public:
-  explicit PickingHost(tarnwick::WorkingArmy& work) : work_(work) {}
-
-  void Message(const std::string& /*text*/) override {}
-  bool Question(const std::string& /*text*/) override { return true; }
-  void ShowArmySelectionForm() override {}
-  void ShowArmyListForm() override { work_.Header.ArmyFile = "input"; }
-  void ShowLeaderMgmtForm() override {}
-  void ShowSpecForm() override {}
-  void ShowPicture(const fs::path& /*file*/) override {}
-  std::string Today() override { return "2026-11-21"; }
-
- private:
-  tarnwick::WorkingArmy& work_;
-};
-
-fs::path MakeProgramFolder() {
-  const fs::path folder = fs::temp_directory_path() / ("load_fuzz" + std::to_string(getpid()));
-  fs::create_directories(folder);
-  WriteFile(folder / "armylist.dat",
-            "[Armies]\r\ntotal=1\r\nname1=Host\r\n[Host]\r\npoints=200\r\ncommand_pts=200\r\n"
-            "tot_units=4\r\nunit1=HI,,5,4,,10,6,\r\nunit2=HI,Vet,4.5,2,J,12,3,Old\r\n"
-            "unit3=EL,,4,4,,30,2,Big\r\nunit4=SK,,3,1,A,4,9,\r\n"
-            "tot_limits=1\r\nlimit1=HI,1,\r\ntot_leader=2\r\nleader1=Ana Prima,7,1,120\r\n"
-            "leader2=Bel Secunda,4,1,40\r\ntot_special=4\r\nspecial1=RALLY,8,4\r\n"
-            "special2=FLANK,6,3\r\nspecial3=MISSILE,5,3\r\nspecial4=CALTROP,4,3\r\n");
-  WriteFile(folder / "images.dat",
-            "[IMAGES]\r\ntotal=3\r\nimage1=a.svg,HI,,,Line\r\nimage2=b.svg,HI,Vet,J,Veteran\r\n"
-            "image3=c.svg,EL,,,Elephant\r\n");
-  return folder;
-}
-
-}  // namespace
+#include "loaded_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tarnwick;
-  static const fs::path folder = MakeProgramFolder();
-  WriteFile(folder / "input.army", {reinterpret_cast<const char*>(data), size});
-  WorkingArmy work;
-  Disk disk(folder);
-  PickingHost host(work);
+  static const auto folder = MakeProgramFolder("load_fuzz");
   try {
-    Form_Load(work, disk);
-    LoadBtn_Click(work, disk, host);
+    LoadedInput army(folder, {reinterpret_cast<const char*>(data), size});
     Int16 spent;
-    for (const UnitRec& unit : work.Army.BaseUnits)
+    for (const UnitRec& unit : army.Work.Army.BaseUnits)
       spent += unit.Bought * unit.Cost;
-    if (work.Army.PointsSpent != spent) std::abort();
-    SaveArmy(work, disk, host);
+    if (army.Work.Army.PointsSpent != spent) std::abort();
+    SaveArmy(army.Work, army.Store, army.User);
   } catch (const RuntimeError&) {
     // The window names it and ends the program.
   }
