@@ -40,10 +40,8 @@ std::optional<LoadedInput> Load(const std::filesystem::path& folder, std::string
 /// What is left when all that a sheet is made of is taken out has nothing of its own.
 bool IsSound(const std::string& html) {
   static const std::regex ours(
-      "</?(h1|h2|p|i|b|ul|li|table|thead|tbody|tr|th|td|br)( "
-      "(class|width|valign|cellpadding)=\"[a-z0-9%]*\")*>|"
-      "<img alt=\"\" width=\"\\d+\" height=\"\\d+\" "
-      "src=\"data:image/svg\\+xml;base64,[A-Za-z0-9+/=]*\">|"
+      R"(</?(h1|h2|p|i|b|ul|li|table|thead|tbody|tr|th|td|br)( [a-z]+='[a-z0-9%]*')*>|)"
+      R"(<img alt='' width='\d+' height='\d+' src='data:image/svg\+xml;base64,[A-Za-z0-9+/=]*'>|)"
       "&(amp|lt|gt|quot|nbsp);");
   const std::string rest = std::regex_replace(html, ours, "");
   return rest.find_first_of("<>&\"") == std::string::npos &&

@@ -53,9 +53,9 @@ std::string PeriodText(const std::string& period) {
 }
 
 std::string TypeText(const ArmyHeader& header) {
-  const std::string fantasy = header.TYPE_IsFantasy.Value ? "fantasy" : "";
-  if (!header.TYPE_IsPersonal.Value) return fantasy;
-  return fantasy.empty() ? "personal" : "personal, fantasy";
+  const bool fantasy = header.TYPE_IsFantasy.Value;
+  if (!header.TYPE_IsPersonal.Value) return fantasy ? "fantasy" : "";
+  return fantasy ? "personal, fantasy" : "personal";
 }
 
 std::string BudgetText(const std::optional<Budget>& budget) {
@@ -80,12 +80,12 @@ std::string FactTable(std::vector<Fact> left, std::vector<Fact> right) {
     std::string row;
     for (const auto* column : {&left, &right}) {
       const Fact fact = i < column->size() ? column->at(i) : Fact();
-      row += Element("td class=\"label\"", HtmlText(fact.first)) +
-             Element("td", HtmlText(fact.second));
+      row +=
+          Element("td class='label'", HtmlText(fact.first)) + Element("td", HtmlText(fact.second));
     }
     rows += Element("tr", row);
   }
-  return Element("table width=\"100%\" cellpadding=\"1\"", rows);
+  return Element("table width='100%' cellpadding='1'", rows);
 }
 
 std::string Facts(const WorkingArmy& work, const ArmySummary& summary) {
@@ -123,8 +123,7 @@ std::string Limits(const ArmyState& army, const ArmySummary& summary) {
                               Element("td", limit.Met ? "met" : "<b>not met</b>"));
     ++j;
   }
-  return Element("h2", "Limits") +
-         Element("table class=\"rows\" width=\"100%\" cellpadding=\"1\"", rows);
+  return Element("h2", "Limits") + Element("table class='rows' width='100%' cellpadding='1'", rows);
 }
 
 }  // namespace
@@ -152,11 +151,11 @@ std::string ArmySheet(const WorkingArmy& work, const Disk& disk, const TerrainPi
 std::string SheetPage(const std::string& title, const std::vector<std::string>& sheets) {
   std::string body;
   for (const std::string& sheet : sheets) {
-    body += Element(body.empty() ? "div" : "div style=\"page-break-before: always\"", sheet);
+    body += Element(body.empty() ? "div" : "div style='page-break-before: always'", sheet);
   }
   return "<!DOCTYPE html>\n" +
-         Element("html lang=\"en\"",
-                 Element("head", "<meta charset=\"utf-8\">" + Element("title", HtmlText(title)) +
+         Element("html lang='en'",
+                 Element("head", "<meta charset='utf-8'>" + Element("title", HtmlText(title)) +
                                      Element("style", style)) +
                      Element("body", body));
 }

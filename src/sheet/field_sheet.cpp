@@ -23,7 +23,7 @@ std::string AreaCell(const Battlefield& field, const TerrainPictures& pictures, 
       picture = PictureElement("svg+xml", pictures[kind], areaSide) + "<br>";
     ++kind;
   }
-  return Element("td width=\"80\"", picture + HtmlText(LowerCase(name)));
+  return Element("td width='80'", picture + HtmlText(LowerCase(name)));
 }
 
 /// "HI Vet TQ 7 Sz 4 J"
@@ -48,13 +48,13 @@ std::string ZoneCell(const StoredSetup& setup, std::size_t first, std::size_t la
     places += (place == first ? "" : "<br>") + std::to_string(place + 1) + "&nbsp; " +
               HtmlText(DeployedText(setup.Units.at(place)));
   }
-  return Element("td valign=\"top\"", places);
+  return Element("td valign='top'", places);
 }
 
 std::string SetupPlan(const StoredSetup& setup) {
   return Element("p",
                  Element("b", "Setup " + NumberText(setup.Number)) + HtmlText(setup.Description)) +
-         Element("table class=\"plan\" width=\"100%\" cellpadding=\"1\"",
+         Element("table class='plan' width='100%' cellpadding='1'",
                  "<tr><th>Left</th><th>Centre</th><th>Right</th></tr>" +
                      Element("tr", ZoneCell(setup, 0, 1) + ZoneCell(setup, 2, 6) +
                                        ZoneCell(setup, 7, 8)));
@@ -70,7 +70,7 @@ std::string TerrainMap(const Battlefield& field, const TerrainPictures& pictures
       cells += AreaCell(field, pictures, 3 * row + column);
     rows += Element("tr", cells);
   }
-  return Element("table class=\"field\" cellpadding=\"1\"", rows);
+  return Element("table class='field' cellpadding='1'", rows);
 }
 
 std::vector<std::string> SetupPlans(const WorkingArmy& work, const Disk& disk) {

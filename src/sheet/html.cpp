@@ -64,9 +64,9 @@ std::string Element(std::string_view tag, std::string_view contents) {
 }
 
 std::string PictureElement(std::string_view type, std::string_view bytes, int side) {
-  const std::string size = "=\"" + std::to_string(side) + "\" ";
-  return "<img alt=\"\" width" + size + "height" + size + "src=\"data:image/" + std::string(type) +
-         ";base64," + Base64(bytes) + "\">";
+  const std::string size = "='" + std::to_string(side) + "' ";
+  return "<img alt='' width" + size + "height" + size + "src='data:image/" + std::string(type) +
+         ";base64," + Base64(bytes) + "'>";
 }
 
 std::string TwoInARow(const std::vector<std::string>& parts) {
@@ -74,10 +74,10 @@ std::string TwoInARow(const std::vector<std::string>& parts) {
   for (std::size_t i = 0; i < parts.size(); i += 2) {
     std::string cells;
     for (std::size_t k = i; k < i + 2; ++k)
-      cells += Element("td class=\"half\" width=\"50%\"", k < parts.size() ? parts[k] : "");
+      cells += Element("td class='half' width='50%'", k < parts.size() ? parts[k] : "");
     rows += Element("tr", cells);
   }
-  return rows.empty() ? "" : Element("table class=\"below\" width=\"100%\"", rows);
+  return rows.empty() ? "" : Element("table class='below' width='100%'", rows);
 }
 
 }  // namespace tarnwick

@@ -45,7 +45,7 @@ std::string Footnotes(const Abilities& abilities) {
   std::string notes;
   for (const auto& [code, meaning] : abilities) {
     if (meaning.empty()) continue;
-    notes += Element("p class=\"small\"", Element("b", HtmlText(code)) + HtmlText(meaning));
+    notes += Element("p class='small'", Element("b", HtmlText(code)) + HtmlText(meaning));
   }
   return notes;
 }
@@ -77,7 +77,7 @@ std::string UnitSheet(const ArmyState& army, const Disk& disk) {
   }
   if (rows.empty()) return Element("p", "No units yet.");
   return Element("h2", std::to_string(units) + (units == 1 ? " unit" : " units")) +
-         Element("table class=\"rows\" width=\"100%\" cellpadding=\"1\"",
+         Element("table class='rows' width='100%' cellpadding='1'",
                  Element("thead",
                          "<tr><th></th><th></th><th>Unit</th><th>TQ</th><th>Size</th>"
                          "<th>Missile</th><th>Special abilities</th><th>Points</th></tr>") +

@@ -12,7 +12,7 @@ namespace tarnwick {
 /// of the pictures.
 std::string Plain(std::string html) {
   const std::pair<const char*, const char*> steps[] = {
-      {R"_(<img alt="" width="(\d+)" height="\1" src="data:image/([^"]*)">)_", "{$1 $2}"},
+      {R"(<img alt='' width='(\d+)' height='\1' src='data:image/([^']*)'>)", "{$1 $2}"},
       {"\n", " "},
       {"</t[dh]>", "|"},
       {"</(tr|p|h1|h2|li)>|<br>", "\n"},
@@ -122,7 +122,7 @@ TEST_F(Sheet, ShowsTextsAsTextsAndReadsNoPictureElsewhere) {
 TEST(SheetPage, PutsEachSheetOnAPageOfItsOwn) {
   const std::string html = SheetPage("A & B", {"one", "two"});
   EXPECT_NE(html.find("<title>A &amp; B</title>"), std::string::npos);
-  EXPECT_NE(html.find("<div>one</div>\n<div style=\"page-break-before: always\">two</div>"),
+  EXPECT_NE(html.find("<div>one</div>\n<div style='page-break-before: always'>two</div>"),
             std::string::npos);
 }
 

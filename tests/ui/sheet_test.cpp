@@ -57,7 +57,7 @@ TEST_F(SheetTest, TearsNoRow) {
   const auto pagesOf = [](std::size_t rows, int lines) {
     std::string cell;
     for (int line = 0; line < lines; ++line)
-      cell += Element("p style=\"font-size: 13pt; margin: 0\"", "x");
+      cell += Element("p style='font-size: 13pt; margin: 0'", "x");
     const std::vector<std::string> cells(2 * rows, cell);
     const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, sheetMargins,
                              QPageLayout::Millimeter);
