@@ -58,7 +58,7 @@ void SaveAs(const QString& name, const QString& ending, const std::function<std:
 void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
   const std::string title = SheetTitle(work);
   const QString name = ToQt(title);
-  const std::string html = SheetPage(title, {ArmySheet(work, disk, ReadTerrainPictures())});
+  std::string html = SheetPage(title, {ArmySheet(work, disk, ReadTerrainPictures())});
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageMargins(sheetMargins, QPageLayout::Millimeter);
   printer.setDocName(name);
