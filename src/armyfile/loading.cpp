@@ -31,6 +31,7 @@ class ArmyLoader {
       : work_(work), disk_(disk), host_(host), file_(std::move(file)) {}
 
   bool Load() {
+    const ProfileFiles::Moment moment(disk_.Files);
     ReadHeader();
     const bool complete = LoadCatalogs() && LoadUnits();
     ShowSelectUnits(army_, disk_);  // what there is, when the loading ends here

@@ -36,6 +36,7 @@ ImageRec ParseImageRow(std::string_view row) {
 
 void LoadImages(ImageCatalog& catalog, const Disk& disk, bool brakkaMode,
                 std::string_view armyFile) {
+  const ProfileFiles::Moment moment(disk.Files);
   catalog.TotImages = 0;
   AppendImages(catalog, disk.Files,
                disk.ProgramFolder / (brakkaMode ? "brakka/images_brakka.dat" : "images.dat"));

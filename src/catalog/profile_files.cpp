@@ -43,23 +43,26 @@ std::optional<ProfileText> ReadText(const fs::path& file) {
 
 }  // namespace
 
-ProfileFiles::KnownFile* ProfileFiles::Known(const fs::path& file) const {
-  std::error_code error;
-  const FileTime changedAt = fs::last_write_time(file, error);
-  if (error) return nullptr;
+ProfileFiles::KnownFile* ProfileFiles::Known(const fs::path& file, bool now) const {
   const auto found = std::find_if(known_.begin(), known_.end(), [&file](const KnownFile& known) {
     return known.Path.native() == file.native();
   });
-  if (found != known_.end()) {
-    std::rotate(known_.begin(), found, found + 1);
-    if (known_.front().Settled && known_.front().ChangedAt == changedAt) return &known_.front();
-    known_.erase(known_.begin());
+  const bool known = found != known_.end();
+  if (known) std::rotate(known_.begin(), found, found + 1);
+  if (known && !now && moments_ > 0 && known_.front().ReadIn == moment_) return &known_.front();
+  std::error_code error;
+  const FileTime changedAt = fs::last_write_time(file, error);
+  if (known && !error && known_.front().Settled && known_.front().ChangedAt == changedAt) {
+    known_.front().ReadIn = moment_;
+    return &known_.front();
   }
+  if (known) known_.erase(known_.begin());
+  if (error) return nullptr;
   const bool settled = StampCanTell(changedAt, FileTime::clock::now());
   auto text = ReadText(file);
   if (!text) return nullptr;
   if (known_.size() == mostKnownFiles) known_.pop_back();
-  return &*known_.insert(known_.begin(), {file, changedAt, settled, std::move(*text)});
+  return &*known_.insert(known_.begin(), {file, changedAt, settled, std::move(*text), moment_});
 }
 
 std::string ProfileFiles::ReadIniString(std::string_view section, std::string_view key,
@@ -87,13 +90,14 @@ Int16 ProfileFiles::WriteIniString(std::string_view section, std::string_view ke
 
 Int16 ProfileFiles::WriteIniStrings(const std::vector<ProfileText::Entry>& entries,
                                     const fs::path& file, Durability durability) {
-  const KnownFile* known = Known(file);
+  KnownFile* known = Known(file, true);
   std::error_code error;
   // A file that is there but can't be read must not be replaced by one that holds this key alone.
   if (known == nullptr && fs::exists(file, error)) return 0;
   const ProfileText none;
   try {
     ReplaceFile(file, (known != nullptr ? known->Text : none).With(entries), durability);
+    if (known != nullptr) known->ReadIn = 0;
     return 1;
   } catch (const FileError&) {
     return 0;

@@ -22,6 +22,21 @@ inline constexpr std::size_t longestValue = 254;
 /// says that it is unchanged.
 class ProfileFiles {
  public:
+  /// For as long as it lives, a file stays what it was when it was first read: who reads it key by
+  /// key gets all of one version, whoever replaces the file meanwhile. What is written here counts.
+  class Moment {
+   public:
+    explicit Moment(const ProfileFiles& files) : files_(files) {
+      if (files_.moments_++ == 0) ++files_.moment_;
+    }
+    Moment(const Moment&) = delete;
+    Moment& operator=(const Moment&) = delete;
+    ~Moment() { --files_.moments_; }
+
+   private:
+    const ProfileFiles& files_;
+  };
+
   /// The value of a key, its first 254 bytes at the most; "" when file, section or key is missing.
   std::string ReadIniString(std::string_view section, std::string_view key,
                             const std::filesystem::path& file) const;
@@ -49,12 +64,16 @@ class ProfileFiles {
     std::filesystem::file_time_type ChangedAt;
     bool Settled = false;  ///< the time stamp tells every later change
     ProfileText Text;
+    int ReadIn = 0;  ///< the moment in which it was read or found unchanged
   };
 
-  /// Nothing for a file that can't be read. The next call may move it.
-  KnownFile* Known(const std::filesystem::path& file) const;
+  /// Nothing for a file that can't be read. The next call may move it. `now`: whatever the moment
+  /// shows.
+  KnownFile* Known(const std::filesystem::path& file, bool now = false) const;
 
   mutable std::vector<KnownFile> known_;  ///< the one used last comes first
+  mutable int moments_ = 0;               ///< that live, one in the other
+  mutable int moment_ = 0;                ///< the number of the outermost
 };
 
 /// True when `path` names a plain file.

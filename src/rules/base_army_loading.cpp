@@ -137,6 +137,7 @@ void LoadSpecials(ArmyState& state, const Disk& disk) {
 }  // namespace
 
 void LoadBaseArmy(ArmyState& state, const Disk& disk, Host& host) {
+  const ProfileFiles::Moment moment(disk.Files);
   try {
     if (state.Management.ArmyName.Text.empty()) {
       state.Management.ArmyName.Text = state.BaseArmyName;

@@ -105,4 +105,20 @@ TEST_F(ProfileFilesTest, ChangesThatTheTimeStampCanNotTellAreSeen) {
   }
 }
 
+TEST_F(ProfileFilesTest, InAMomentAFileIsOneVersionWithOwnWrites) {
+  Put("1", hourAgo_);
+  {
+    const ProfileFiles::Moment moment(files_);
+    EXPECT_EQ(Get(), "1");
+    Put("2");
+    { const ProfileFiles::Moment inner(files_); }
+    EXPECT_EQ(Get(), "1");
+    files_.WriteIniString("s", "j", "3", file_);
+    EXPECT_EQ(folder_.Read("file.dat"), "[s]\nk=2\nj=3\r\n");
+    EXPECT_EQ(Get(), "2");
+    Put("4");
+  }
+  EXPECT_EQ(Get(), "4");
+}
+
 }  // namespace tarnwick

@@ -59,6 +59,25 @@ TEST(LoadBaseArmy, AMissingUnitLeavesNone) {
   EXPECT_EQ(Shown(sample.Units.TypeLabel, 1), "-|");
 }
 
+TEST(LoadBaseArmy, ACatalogSavedMeanwhileCountsForTheNextArmy) {
+  struct Author : FakeHost {  // saves while the user reads a message
+    void Message(const std::string& text) override {
+      FakeHost::Message(text);
+      Folder.Write("armylist.dat", "[Gaps]\r\npoints=9\r\n");
+    }
+    explicit Author(const TempFolder& folder) : Folder(folder) {}
+    const TempFolder& Folder;
+  };
+  SampleState sample("Full");
+  Author author(sample.Folder);
+  sample.State.BaseArmyName = "Gaps";
+  LoadBaseArmy(sample.State, sample.Store, author);
+  EXPECT_EQ(author.Heard(), (Lines{"Leader # 1 not present", "Army unit 2 not found"}));
+  EXPECT_EQ(Summary(sample), "100|100/0|0|0|2|1|2");
+  LoadBaseArmy(sample.State, sample.Store, author);
+  EXPECT_EQ(Summary(sample), "9|9/0|0|0|0|0|0");
+}
+
 TEST(LoadBaseArmy, ARowThatBreaksTheRulesEndsItQuietly) {
   const std::pair<const char*, const char*> cases[] = {
       {"Too Many Units", "70|70/0|9|200|0|0|0"},
