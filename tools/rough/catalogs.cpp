@@ -3,6 +3,7 @@
 
 // Replaces catalogs under a running editor that has an army open.
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <random>
@@ -19,6 +20,7 @@
 #include "handling.h"
 #include "program_folder.h"
 #include "rules/leaders.h"
+#include "rules/unit_grid.h"
 
 namespace tarnwick {
 namespace {
@@ -137,7 +139,8 @@ std::string LiveOn(const fs::path& folder, const char* catalog, Random& random) 
   Require(desk.Load(sampleArmy), "not loaded: " + desk.Told);
   const Rows before = RowsOf(desk.Work.Army);
   std::string way = Replace(folder / catalog, random);
-  desk.Work.Army.Units.ViewOption[1].Value = true;
+  TickOption(desk.Work.Army.Units.ViewOption, 1);
+  ViewOption_Click(desk.Work.Army, desk.Store);
   Require(desk.Save(sampleArmy), way + ": not saved: " + desk.Told);
   Require(RowsOf(desk.Work.Army) == before, way + ": rows of the open army changed");
   const std::string told = ToldAtLoad(desk);
@@ -181,6 +184,7 @@ void RaceWith(Handling& handling, const char* catalog) {
   Rename(file, OtherVersion(text));
   desk.Load(sampleArmy);
   const Rows two = RowsOf(desk.Work.Army);
+  if (one == two) handling.Fault(std::string(catalog) + ": its other version is not seen");
   Rename(file, text);
   const pid_t writer = StartRenaming(file);
   const Ending ending = LeadApart([&] { return LoadAgainAndAgain(handling.Folder, one, two); });
@@ -197,7 +201,7 @@ void RaceWith(Handling& handling, const char* catalog) {
 void HandleCatalogs(Handling& handling) {
   constexpr std::array<const char*, 3> catalogs = {"armylist.dat", "images.dat", "specials.dat"};
   for (unsigned seed = handling.Seed; handling.HasTime(); ++seed) {
-    if (seed % 50 == 1) {
+    if ((seed - handling.Seed) % 50 == 0) {
       for (const char* catalog : {"armylist.dat", "images.dat"})
         RaceWith(handling, catalog);
     }

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "apart.h"
-#include "base/ansi.h"
 #include "desk.h"
 #include "handling.h"
 #include "program_folder.h"

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <functional>
 #include <random>
+#include <string>
 #include <string_view>
 
 #include "apart.h"
@@ -143,6 +143,7 @@ void HandleLarge(Handling& handling) {
   const std::string saved = ReadFile(file);
   for (const Growth& growth : growths) {
     WriteFile(file, growth.Grow(army));
+    MakeOld(file);
     const Ending ending = LoadAndSave(handling.Folder);
     char note[100];
     std::snprintf(note, sizeof note, "%s in %.2f s and %ld MB", growth.Name, ending.Seconds,
