@@ -59,6 +59,17 @@ constexpr std::array sections = {"units.md",  "leaders.md", "description.md", "t
                                  "saving.md", "brakka.md",  "setups.md"};
 static_assert(sections.size() == static_cast<std::size_t>(Panel::Setup) + 1);
 
+template <typename Widget>
+PanelWidget* New(Session& session) {
+  return new Widget(session);
+}
+
+/// What makes the panels, in the same order.
+constexpr std::array<PanelWidget* (*)(Session&), sections.size()> makers = {
+    New<UnitsPanelWidget>,   New<CommandPanelWidget>,    New<DetailPanelWidget>,
+    New<TerrainPanelWidget>, New<ManagementPanelWidget>, New<MonsterPanelWidget>,
+    New<SetupPanelWidget>};
+
 /// The button takes back, or does again, the step of that name, if there is one.
 void ShowStep(QPushButton* button, const char* does, const std::string& step) {
   const QString name = ToQt(step);
@@ -82,6 +93,7 @@ MainForm::MainForm(Session& session, std::filesystem::path guideFolder)
   summary_ = new SummaryPanel(
       session_, [this](Panel panel) { Open(panel); }, this);
   contents_->addWidget(summary_);
+  summary_->installEventFilter(this);
   layout->addLayout(contents_, 1);
   AddShortcuts();
   // Left to itself a window takes two thirds of the screen at most.
@@ -99,8 +111,9 @@ void MainForm::Refresh() {
   const ArmyState& army = session_.Work.Army;
   const QString title = ToQt(army.Title);
   if (windowTitle() != title) setWindowTitle(title);
+  MakePanels();
   for (PanelWidget* panel : panels_)
-    panel->Refresh();
+    if (panel != nullptr) panel->Refresh();
   summary_->Refresh();
   ShowFront();
   for (const auto& [panel, button] : panelButtons_)
@@ -110,6 +123,41 @@ void MainForm::Refresh() {
   quickSave_->setAccessibleDescription(unsaved ? "There is something to save" : "");
   ShowStep(undo_, "Undo", session_.Steps().UndoName());
   ShowStep(redo_, "Redo", session_.Steps().RedoName());
+}
+
+void MainForm::MakePanels() {
+  if (panels_.empty()) {
+    panels_.resize(makers.size());
+    MakePanel(static_cast<std::size_t>(session_.Work.Army.EditFrame.Front));
+  } else {
+    for (std::size_t i = 0; i < makers.size(); ++i)
+      if (panels_[i] == nullptr) MakePanel(i);
+  }
+}
+
+void MainForm::MakePanel(std::size_t index) {
+  PanelWidget* panel = makers.at(index)(session_);
+  panels_[index] = panel;
+  panel->setParent(editFrame_->parentWidget());
+  panel->hide();  // it is laid out when it first comes to the front
+  // The summary was made before; Tab comes there after the panel all the same.
+  QWidget* last = previousInFocusChain();
+  while (!(last->focusPolicy() & Qt::TabFocus))
+    last = last->previousInFocusChain();
+  for (auto* control : summary_->findChildren<QWidget*>()) {
+    if (!(control->focusPolicy() & Qt::TabFocus)) continue;
+    setTabOrder(last, control);
+    last = control;
+  }
+}
+
+bool MainForm::eventFilter(QObject* summary, QEvent* event) {
+  if (event->type() == QEvent::Paint) {
+    summary->removeEventFilter(this);
+    const auto showAll = [this] { session_.Run([] {}); };
+    QMetaObject::invokeMethod(this, showAll, Qt::QueuedConnection);
+  }
+  return false;
 }
 
 void MainForm::ShowFront() {
@@ -282,17 +330,7 @@ void MainForm::AddSteps(QVBoxLayout* column) {
 QWidget* MainForm::NewPanelStack() {
   auto* stack = new QWidget(this);
   editFrame_ = new QStackedLayout(stack);
-  // In the order of Panel.
-  panels_ = {new UnitsPanelWidget(session_),      new CommandPanelWidget(session_),
-             new DetailPanelWidget(session_),     new TerrainPanelWidget(session_),
-             new ManagementPanelWidget(session_), new MonsterPanelWidget(session_),
-             new SetupPanelWidget(session_)};
-  // A panel is laid out when it first comes to the front: all of them would hold up the start.
-  for (PanelWidget* panel : panels_) {
-    panel->setParent(stack);
-    panel->hide();
-  }
-  views_.resize(panels_.size());
+  views_.resize(makers.size());
   return stack;
 }
 

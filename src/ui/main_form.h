@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -41,6 +42,8 @@ class MainForm : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  /// Sees when the summary, and so the window, is first painted.
+  bool eventFilter(QObject* summary, QEvent* event) override;
 
  private:
   QWidget* NewButtonColumn();
@@ -49,6 +52,10 @@ class MainForm : public QWidget {
   void AddQuickSave(QVBoxLayout* column);
   void AddSteps(QVBoxLayout* column);
   QWidget* NewPanelStack();
+  /// Makes those panels that are missing. At first it is the one in front alone: the others would
+  /// hold up the start. They come when the window has been painted, or with the first event.
+  void MakePanels();
+  void MakePanel(std::size_t index);
   /// Shows the panel in front.
   void ShowFront();
   /// What a panel scrolls in, on the stack.
