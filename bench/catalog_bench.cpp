@@ -19,6 +19,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "large_catalog.h"
 #include "quiet_host.h"
 #include "rules/army_state.h"
 #include "rules/base_army_loading.h"
@@ -30,45 +31,13 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int armies = 2000;
-constexpr int unitRows = 200;
 constexpr int keysPerRun = 10000;
-
-std::string ArmyNameOf(int army) {
-  return "Host " + std::to_string(army) + " of the Long Wars";
-}
-
-std::string UnitRow(int army, int row) {
-  const char* const types[] = {"HI", "MI", "LI", "SK", "HC", "LC", "EL", "PH"};
-  return std::string(types[(army + row) % 8]) + ",Vet,6,4,J," + std::to_string(5 + row % 20) +
-         ",8,Steadfast" + std::to_string(row % 40) + " Swordsmen" + std::to_string(army % 90);
-}
-
-std::string ArmySection(int army) {
-  std::string text = "[" + ArmyNameOf(army) + "]\r\npoints=400\r\ncommand_pts=250\r\n";
-  text += "tot_units=" + std::to_string(unitRows) + "\r\n";
-  for (int row = 1; row <= unitRows; ++row) {
-    text += "unit" + std::to_string(row) + "=" + UnitRow(army, row) + "\r\n";
-  }
-  text += "tot_limits=2\r\nlimit1=HI,4,\r\nlimit2=HI,1,Vet\r\n";
-  text += "tot_leader=2\r\nleader1=The Old King,7,2,150\r\nleader2=His Brother,5,1,70\r\n";
-  text += "tot_special=2\r\nspecial1=RALLY,8,4\r\nspecial2=FLANK,10,4\r\n\r\n";
-  return text;
-}
 
 /// The program folder with the large catalog, made when it is first asked for.
 const TempFolder& ProgramFolder() {
   static const TempFolder folder;
   static const bool made = [] {
-    std::string text = "[Armies]\r\ntotal=" + std::to_string(armies) + "\r\n";
-    for (int army = 1; army <= armies; ++army) {
-      text += "name" + std::to_string(army) + "=" + ArmyNameOf(army) + "\r\n";
-    }
-    for (int army = 1; army <= armies; ++army)
-      text += ArmySection(army);
-    folder.Write("armylist.dat", text);
-    // The profile reader does not trust the time stamp of a file that has only just changed.
-    const fs::path file = folder / "armylist.dat";
-    fs::last_write_time(file, fs::last_write_time(file) - std::chrono::hours(1));
+    WriteCatalog(folder / "armylist.dat", armies);
     return true;
   }();
   benchmark::DoNotOptimize(made);
