@@ -26,6 +26,7 @@
 #include "ui/panels/summary_panel.h"
 #include "ui/panels/terrain_panel.h"
 #include "ui/panels/units_panel.h"
+#include "ui/parts/application_style.h"
 #include "ui/parts/entry_guard.h"
 #include "ui/parts/message_box.h"
 #include "ui/parts/panel_button.h"
@@ -154,7 +155,10 @@ void MainForm::MakePanel(std::size_t index) {
 bool MainForm::eventFilter(QObject* summary, QEvent* event) {
   if (event->type() == QEvent::Paint) {
     summary->removeEventFilter(this);
-    const auto showAll = [this] { session_.Run([] {}); };
+    const auto showAll = [this] {
+      session_.Run([] {});
+      ShowIcon();
+    };
     QMetaObject::invokeMethod(this, showAll, Qt::QueuedConnection);
   }
   return false;

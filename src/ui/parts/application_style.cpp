@@ -34,6 +34,9 @@ void ApplyStyle() {
   palette.setColor(QPalette::Link, AccentColour());
   QApplication::setPalette(palette);
   InitPictures();
+}
+
+void ShowIcon() {
   QApplication::setWindowIcon(QIcon(":/tarnwick.png"));
 }
 

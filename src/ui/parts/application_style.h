@@ -4,7 +4,11 @@
 
 namespace tarnwick {
 
-/// Gives the application its own style, light palette and icon, whatever the desktop's theme.
+/// Gives the application its own style and light palette, whatever the desktop's theme.
 void ApplyStyle();
+
+/// Gives all windows their icon. To read a picture begins with a search for plug-ins, which the
+/// first window need not wait for.
+void ShowIcon();
 
 }  // namespace tarnwick
