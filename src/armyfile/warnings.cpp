@@ -56,19 +56,28 @@ std::string TerrainWarning(const ArmyState& state) {
          " of the base game's folder and not read back.";
 }
 
-std::string BaseArmyWarning(const ArmyState& state) {
-  if (!state.BaseArmyName.empty() || state.TotUnits == 0) return "";
-  return "This army has lost its base army; saved now, it cannot be loaded. "
-         "Ctrl+Z brings it back.";
+std::string BaseArmyWarning(const ArmyState& state, const Disk& disk) {
+  const std::string& base = state.BaseArmyName;
+  if (state.TotUnits == 0) return "";
+  if (base.empty()) {
+    return "This army has lost its base army; saved now, it cannot be loaded. "
+           "Ctrl+Z brings it back.";
+  }
+  if (!disk.Files.ReadIniString(base, "tot_units", state.ArmyListFile).empty()) return "";
+  return "The module has no " + base + "; saved now, this army cannot be loaded.";
 }
 
-std::string FolderWarning(const ArmyState& state, const Disk& disk) {
+std::string FileNameWarning(const ArmyState& state, const Disk& disk) {
   const std::string& name = state.Management.ArmyFileName.Text;
+  if (name.empty()) {
+    return state.TotUnits == 0 ? "" : "An army without a file name can be saved, but not loaded.";
+  }
   const fs::path folder = PathIn("", name).parent_path();
+  if (folder.empty()) return "";
   const fs::path place = ArmyPath(disk.ModuleFolder(state.BrakkaMode), name).parent_path();
   std::error_code error;
-  if (folder.empty() || fs::is_directory(place, error)) return "";
-  return "There is no folder " + AnsiFromPath(folder) + ".";
+  if (!fs::is_directory(place, error)) return "There is no folder " + AnsiFromPath(folder) + ".";
+  return "Load army does not list the armies of folder " + AnsiFromPath(folder) + ".";
 }
 
 std::string LengthWarning(std::string_view text, std::size_t lineBreakSize) {

@@ -27,11 +27,13 @@ std::string SetupWarning(const WorkingArmy& work);
 /// Where the second module's terrain goes.
 std::string TerrainWarning(const ArmyState& state);
 
-/// The choice of a new army was cancelled, which took the base army from the army on screen.
-std::string BaseArmyWarning(const ArmyState& state);
+/// The army would be saved without a base army that can be loaded: the choice of a new army was
+/// cancelled, or the module was changed. Looks into the catalog.
+std::string BaseArmyWarning(const ArmyState& state, const Disk& disk);
 
-/// The folder in which the army would be saved isn't there. Looks for it.
-std::string FolderWarning(const ArmyState& state, const Disk& disk);
+/// The army would be saved under no name, in a folder that isn't there, or in one that the list of
+/// armies doesn't show. Looks for the folder.
+std::string FileNameWarning(const ArmyState& state, const Disk& disk);
 
 /// How full the line of the file is that takes a description, from 200 bytes on. Each line break of
 /// `text` takes `lineBreakSize` bytes there.

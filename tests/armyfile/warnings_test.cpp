@@ -12,8 +12,8 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
   std::string& file = desk.Army.Management.ArmyFileName.Text;
   const auto told = [&] {
     return LeaderWarning(desk.Army) + DeleteWarning(desk.Army, desk.Store, form) +
-           SetupWarning(desk.Work) + TerrainWarning(desk.Army) + BaseArmyWarning(desk.Army) +
-           FolderWarning(desk.Army, desk.Store);
+           SetupWarning(desk.Work) + TerrainWarning(desk.Army) +
+           BaseArmyWarning(desk.Army, desk.Store) + FileNameWarning(desk.Army, desk.Store);
   };
   EXPECT_EQ(told(),
             "Units can be deployed once the army was saved and loaded; until then setups belong to "
@@ -29,24 +29,31 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
             "be deployed once it was saved and loaded.There is no folder italy/po.");
   desk.Folder.Write("italy/po/x", "");
   desk.Header.ArmyFile = "italy/po/saved";
-  EXPECT_EQ(told(), "");
+  EXPECT_EQ(told(), "Load army does not list the armies of folder italy/po.");
   desk.ChooseModule(1);
   file = desk.Header.ArmyFile = "Tyre";
   EXPECT_EQ(told(),
             "Delete removes saved.army from the base game's folder"
             "Terrain is saved into Tyre.army of the base game's folder and not read back.");
   file = "gaul/Tyre";
-  EXPECT_EQ(FolderWarning(desk.Army, desk.Store), "There is no folder gaul.");
+  EXPECT_EQ(FileNameWarning(desk.Army, desk.Store), "There is no folder gaul.");
   std::filesystem::remove(desk.Folder / "saved.army");
   file = "";
   EXPECT_EQ(told(),
-            "There is no saved.army in the base game's folder; Delete would end the editor.");
+            "There is no saved.army in the base game's folder; Delete would end the editor."
+            "An army without a file name can be saved, but not loaded.");
+  file = "Tyre";
   form.ArmyList.ListIndex = -1;
+  desk.Header.ArmyFile = file;
+  desk.ChooseModule(0);
+  desk.Army.BaseArmyName = "Atlantis";
+  EXPECT_EQ(told(), "The module has no Atlantis; saved now, this army cannot be loaded.");
   desk.NewArmy("");
   EXPECT_EQ(told(),
             "This army has lost its base army; saved now, it cannot be loaded. "
             "Ctrl+Z brings it back.");
   desk.Army.TotUnits = 0;
+  file = "";
   desk.Army.LeaderCount = 6;
   EXPECT_EQ(told(), "");
   ++desk.Army.LeaderCount;
