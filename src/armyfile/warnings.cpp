@@ -19,6 +19,11 @@ bool SameFile(const std::string& a, const std::string& b) {
   return a == b || PathIn("", a).lexically_normal() == PathIn("", b).lexically_normal();
 }
 
+/// Verification asks for a leader at least, so that nothing is saved.
+bool HasNothing(const ArmyState& state) {
+  return state.TotUnits == 0 && state.SelectedLeader == -1;
+}
+
 }  // namespace
 
 std::string LeaderWarning(const ArmyState& state) {
@@ -58,7 +63,10 @@ std::string TerrainWarning(const ArmyState& state) {
 
 std::string BaseArmyWarning(const ArmyState& state, const Disk& disk) {
   const std::string& base = state.BaseArmyName;
-  if (state.TotUnits == 0) return "";
+  if (HasNothing(state)) return "";
+  if (base.empty() && state.TotUnits == 0) {
+    return "This army has no base army; saved now, it cannot be loaded.";
+  }
   if (base.empty()) {
     return "This army has lost its base army; saved now, it cannot be loaded. "
            "Ctrl+Z brings it back.";
@@ -70,7 +78,7 @@ std::string BaseArmyWarning(const ArmyState& state, const Disk& disk) {
 std::string FileNameWarning(const ArmyState& state, const Disk& disk) {
   const std::string& name = state.Management.ArmyFileName.Text;
   if (name.empty()) {
-    return state.TotUnits == 0 ? "" : "An army without a file name can be saved, but not loaded.";
+    return HasNothing(state) ? "" : "An army without a file name can be saved, but not loaded.";
   }
   const fs::path folder = PathIn("", name).parent_path();
   if (folder.empty()) return "";

@@ -53,6 +53,8 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
             "This army has lost its base army; saved now, it cannot be loaded. "
             "Ctrl+Z brings it back.");
   desk.Army.TotUnits = 0;
+  EXPECT_EQ(told(), "This army has no base army; saved now, it cannot be loaded.");
+  desk.Army.SelectedLeader = -1;
   file = "";
   desk.Army.LeaderCount = 6;
   EXPECT_EQ(told(), "");
