@@ -47,10 +47,13 @@ void CarryOver(QWidget& source, QPoint grip, QWidget& target,
   QApplication::sendEvent(&target, &drop);
 }
 
-/// Brings a widget into view as a user would, where it stands on something that scrolls.
-void ScrollTo(QWidget& widget) {
+/// Brings a place on a widget into view as a user would, where it stands on something that scrolls.
+void ScrollTo(QWidget& widget, QPoint position) {
   for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
-    if (auto* scroll = qobject_cast<QScrollArea*>(parent)) scroll->ensureWidgetVisible(&widget);
+    auto* scroll = qobject_cast<QScrollArea*>(parent);
+    if (scroll == nullptr) continue;
+    const QPoint place = widget.mapTo(scroll->widget(), position);
+    scroll->ensureVisible(place.x(), place.y());
   }
 }
 
@@ -187,12 +190,12 @@ QString WindowDriver::Picture(const QString& name) const {
 
 void WindowDriver::ClickAt(QWidget& widget, QPoint position) {
   if (!widget.isEnabled()) Fail(widget.objectName() + " is idle");
-  ScrollTo(widget);
   QPoint there;
   const QWidget* hit = nullptr;
   // A user waits until a window that has just opened is laid out.
   for (int tries = 0; tries < 50 && !widget.isAncestorOf(hit); ++tries) {
     if (tries > 0) QTest::qWait(10);
+    ScrollTo(widget, position);
     there = widget.mapTo(widget.window(), position);
     hit = widget.window()->childAt(there);
   }
