@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
+// SPDX-License-Identifier: MIT
+#include "monkey/hands.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* keys[] = {
+    "Tab",    "Tab",          "Shift+Tab",   "Return",    "Return",   "Esc",    "Esc",
+    "Up",     "Down",         "Left",        "Right",     "PgUp",     "PgDown", "Home",
+    "End",    "Space",        "Del",         "Backspace", "F1",       "Ctrl+Z", "Ctrl+Z",
+    "Ctrl+Y", "Ctrl+Shift+Z", "Ctrl+A",      "Ctrl+C",    "Ctrl+X",   "Ctrl+V", "Ctrl+1",
+    "Ctrl+2", "Ctrl+3",       "Ctrl+4",      "Ctrl+5",    "Ctrl+6",   "Ctrl+N", "Ctrl+O",
+    "Ctrl+S", "Ctrl+PgUp",    "Ctrl+PgDown", "Ctrl+Q",    "Alt+Left", "1",      "3",
+    "9",      "Ctrl+Home",    "Shift+End",   "Enter"};
+
+constexpr QSize sizes[] = {{1280, 800}, {1000, 700}, {1920, 1080}, {640, 480}, {1280, 560}};
+
+constexpr const char* panelButtons[] = {"ShowUnitsBtn",   "ShowCommandBtn", "ShowDetailBtn",
+                                        "ShowTerrainBtn", "ShowSetup",      "ShowSaveFrame"};
+
+QString ArrayOf(const QWidget& control) {
+  return control.objectName().section('(', 0, 0);
+}
+
+bool IsPlace(const QWidget& widget) {
+  return std::ranges::count(places, widget.objectName().toStdString()) > 0;
+}
+
+/// Nobody makes another window active without a window manager.
+void Activate(QWidget& window) {
+  if (window.isActiveWindow()) return;
+  window.activateWindow();
+  WindowDriver::Settle();
+}
+
+}  // namespace
+
+const std::array<Hands::Kind, 8> Hands::kinds = {{{60, &Hands::UseControl},
+                                                  {16, &Hands::PressKey},
+                                                  {6, &Hands::ChangePanel},
+                                                  {6, &Hands::TypeOn},
+                                                  {6, &Hands::DragPiece},
+                                                  {4, &Hands::OpenMenu},
+                                                  {1, &Hands::Resize},
+                                                  {6, &Hands::UseOtherWindow}}};
+
+const std::array<Hands::Kind, 3> Hands::kindsInDialogs = {
+    {{8, &Hands::UseControl}, {2, &Hands::PressKey}, {1, &Hands::TypeOn}}};
+
+const std::array<Hands::Use, 6> Hands::uses = {{{"QAbstractButton", &Hands::Click},
+                                                {"QComboBox", &Hands::Choose},
+                                                {"QListWidget", &Hands::UseList},
+                                                {"QLineEdit", &Hands::Fill},
+                                                {"QPlainTextEdit", &Hands::Fill},
+                                                {"QTextBrowser", &Hands::Read}}};
+
+bool Hands::IsControl(const QWidget& widget) {
+  const QString name = widget.objectName();
+  return !name.isEmpty() && !name.startsWith("qt_") &&
+         std::ranges::any_of(uses, [&](const Use& use) { return widget.inherits(use.Class); });
+}
+
+Hands::Hands(QWidget& form, Journal& journal, unsigned seed)
+    : form_(form), journal_(journal), dice_(seed) {
+  driver_.OnSight([this](QWidget& window) { See(window); });
+  WatchMenus();
+  // The first of each array comes into sight with any army; what is idle for good never does.
+  for (const QWidget* control : form.findChildren<QWidget*>()) {
+    const QString name = control->objectName();
+    const bool first = !name.contains('(') || name.endsWith("(0)");
+    if (first && IsControl(*control) && control->isEnabledTo(&form)) {
+      journal_.WriteOnce(Entry::Known, name.toStdString());
+    }
+  }
+}
+
+void Hands::Begin() {
+  Activate(form_);
+  const char* const key = dice_.OneIn(3) ? "Ctrl+N" : "Ctrl+O";
+  Press(key);
+}
+
+void Hands::Step() {
+  Activate(form_);
+  DoOneOf(kinds, form_);
+  WindowDriver::Settle();
+  while (QApplication::activePopupWidget() != nullptr)
+    UseMenu();
+  driver_.TakeMessages();  // the journal has them
+}
+
+void Hands::DoOneOf(std::span<const Kind> some, QWidget& window) {
+  const auto add = [](int sum, const Kind& kind) { return sum + kind.Weight; };
+  int roll = dice_.Roll(std::accumulate(some.begin(), some.end(), 0, add));
+  const Kind* kind = some.data();
+  for (; roll >= kind->Weight; ++kind)
+    roll -= kind->Weight;
+  (this->*kind->Do)(window);
+}
+
+void Hands::Note(const QString& what) {
+  warnings_.clear();
+  for (const QWidget* window : {&form_, QApplication::activeModalWidget()}) {
+    if (window == nullptr) continue;
+    for (const auto* label : window->findChildren<QLabel*>())
+      if (label->objectName().endsWith("Warning")) warnings_ += label->text() + "\n";
+  }
+  journal_.Write(Entry::Step, what.toStdString());
+}
+
+void Hands::Note(const char* what, const QWidget& control, const QString& more) {
+  Note(QString("%1 %2 %3").arg(what, control.objectName(), more).trimmed());
+  journal_.WriteOnce(Entry::Used, control.objectName().toStdString());
+  for (const QWidget* place = &control; place != nullptr; place = place->parentWidget())
+    if (IsPlace(*place)) journal_.WriteOnce(Entry::Used, place->objectName().toStdString());
+}
+
+void Hands::UseControl(QWidget& window) {
+  const QList<QWidget*> controls = Controls(window);
+  if (controls.isEmpty()) return;
+  // A long array counts no more than a single control.
+  QStringList arrays;
+  for (const QWidget* control : controls)
+    arrays.append(ArrayOf(*control));
+  arrays.removeDuplicates();
+  const QString array = dice_.Pick(arrays);
+  QList<QWidget*> elements = controls;
+  elements.removeIf([&](const QWidget* control) { return ArrayOf(*control) != array; });
+  QWidget& control = *dice_.Pick(elements);
+  const auto* use = std::ranges::find_if(
+      uses, [&](const Use& candidate) { return control.inherits(candidate.Class); });
+  (this->*use->Do)(control);
+}
+
+QList<QWidget*> Hands::Controls(const QWidget& window) {
+  auto controls = window.findChildren<QWidget*>();
+  controls.removeIf([](const QWidget* control) {
+    return !IsControl(*control) || !control->isVisible() || !control->isEnabled();
+  });
+  for (const QWidget* control : controls)
+    journal_.WriteOnce(Entry::Known, control->objectName().toStdString());
+  return controls;
+}
+
+void Hands::Click(QWidget& button) {
+  const bool twice = dice_.OneIn(8);
+  Note(twice ? "double-click" : "click", button);
+  driver_.Click(button.objectName());
+  if (!twice || !button.isVisible()) return;
+  QTest::mouseDClick(button.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                     button.mapTo(button.window(), QPoint(1, 1)));
+}
+
+void Hands::Choose(QWidget& dropDown) {
+  const int entry = dice_.Roll(std::max(1, static_cast<QComboBox&>(dropDown).count()));
+  Note("choose", dropDown, QString::number(entry));
+  driver_.Choose(dropDown.objectName(), entry);
+}
+
+void Hands::UseList(QWidget& widget) {
+  auto& list = static_cast<QListWidget&>(widget);
+  QList<int> rows;
+  for (int row = 0; row < list.count(); ++row)
+    if (!list.isRowHidden(row)) rows.append(row);
+  if (rows.isEmpty()) {
+    Note("click empty", list);
+    WindowDriver::ClickAt(*list.viewport(), list.viewport()->rect().center());
+    return;
+  }
+  const int row = dice_.Pick(rows);
+  const bool twice = dice_.OneIn(2);
+  Note(twice ? "double-click" : "click", list, QString::number(row));
+  driver_.ClickEntry(list.objectName(), row, twice);
+}
+
+void Hands::Fill(QWidget& box) {
+  const QString text = AnyText(dice_);
+  constexpr Qt::Key ends[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape, Qt::Key_unknown};
+  const Qt::Key end = dice_.Pick(ends);
+  const bool replace = !dice_.OneIn(4);
+  Note(replace ? "fill" : "type into", box, "\"" + text + "\" " + QKeySequence(end).toString());
+  driver_.Click(box.objectName());
+  if (replace) driver_.Press(Qt::Key_A, Qt::ControlModifier);
+  if (text.isEmpty()) driver_.Press(Qt::Key_Delete);
+  if (text.size() < 12) {
+    driver_.Type(text);
+  } else {
+    driver_.Paste(text);
+  }
+  if (end != Qt::Key_unknown) driver_.Press(end);
+}
+
+void Hands::Read(QWidget& text) {
+  auto& area = *static_cast<QAbstractScrollArea&>(text).viewport();
+  const QPoint place(dice_.Roll(area.width()), dice_.Roll(area.height()));
+  Note("click", text, QString("at %1,%2").arg(place.x()).arg(place.y()));
+  WindowDriver::ClickAt(area, place);
+  driver_.Press(Qt::Key_PageDown);
+}
+
+void Hands::Press(const QString& key) {
+  Note("press " + key);
+  const QKeyCombination pressed = QKeySequence(key)[0];
+  driver_.Press(pressed.key(), pressed.keyboardModifiers());
+}
+
+void Hands::PressKey(QWidget& /*window*/) {
+  Press(dice_.OneIn(4) ? QString("Alt+") + QChar('A' + dice_.Roll(26)) : dice_.Pick(keys));
+}
+
+void Hands::TypeOn(QWidget& window) {
+  // A blank may close a dialog before the next letter.
+  const QString text = AnyText(dice_).left(&window == &form_ ? 8 : 1);
+  Note("type \"" + text + "\"");
+  driver_.Type(text);
+}
+
+void Hands::ChangePanel(QWidget& /*form*/) {
+  const char* const button = dice_.Pick(panelButtons);
+  Note("click", driver_.Find(button));
+  driver_.Click(button);
+}
+
+void Hands::DragPiece(QWidget& form) {
+  const auto* units = form.findChild<QListWidget*>("unitList");
+  if (driver_.Sees("TerrImg(0)")) {
+    const QString piece = QString("TerrImg(%1)").arg(dice_.Roll(6));
+    const QString area = QString("Area(%1)").arg(dice_.Roll(9));
+    Note("drag", driver_.Find(piece), "to " + area);
+    driver_.Drag(piece, area);
+  } else if (units->isVisible() && units->count() > 0) {
+    const int row = dice_.Roll(units->count());
+    const QString place = QString(dice_.OneIn(2) ? "unit(%1)" : "assignBtn(%1)").arg(dice_.Roll(9));
+    Note("drag", *units, QString("%1 to %2").arg(row).arg(place));
+    driver_.DragEntry("unitList", row, place);
+  } else {
+    UseControl(form);
+  }
+}
+
+void Hands::OpenMenu(QWidget& window) {
+  QWidget& control = *dice_.Pick(Controls(window));
+  Note("open the menu of", control);
+  const QPoint middle = control.rect().center();
+  // As the key for it does. A button of the mouse would be held down while the menu is open.
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, middle, control.mapToGlobal(middle));
+  QApplication::sendEvent(&control, &event);
+}
+
+void Hands::Resize(QWidget& window) {
+  const QSize size = dice_.Pick(sizes);
+  Note(QString("resize to %1 by %2").arg(size.width()).arg(size.height()));
+  window.resize(size);
+}
+
+void Hands::UseOtherWindow(QWidget& form) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window == &form || !window->isVisible() || !IsPlace(*window) || dice_.OneIn(3)) continue;
+    Activate(*window);
+    Note("look at", *window);
+    UseControl(*window);
+    if (dice_.OneIn(2)) window->close();
+    return;
+  }
+  UseControl(form);
+}
+
+}  // namespace tarnwick
