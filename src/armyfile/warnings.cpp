@@ -7,7 +7,11 @@
 #include <system_error>
 
 #include "base/ansi.h"
+#include "base/errors.h"
+#include "base/host.h"
 #include "base/text.h"
+#include "rules/special_cards.h"
+#include "rules/unit_purchase.h"
 
 namespace tarnwick {
 namespace {
@@ -17,6 +21,34 @@ namespace fs = std::filesystem;
 /// Two names of one file: "a/b" and "a\b". Names that differ in case are two files.
 bool SameFile(const std::string& a, const std::string& b) {
   return a == b || PathIn("", a).lexically_normal() == PathIn("", b).lexically_normal();
+}
+
+/// Hears and answers nothing.
+class Nobody : public Host {
+ public:
+  void Message(const std::string& /*text*/) override {}
+  bool Question(const std::string& /*text*/) override { return false; }
+  void ShowArmySelectionForm() override {}
+  void ShowArmyListForm() override {}
+  void ShowLeaderMgmtForm() override {}
+  void ShowSpecForm() override {}
+  void ShowPicture(const fs::path& /*file*/) override {}
+  std::string Today() override { return ""; }
+};
+
+/// Tries on a copy what the check of a quantity box does. The maximum keeps all but negative
+/// quantities in range.
+template <typename Check>
+std::string QuantityWarning(const ArmyState& state, const TextBox& box, const Check& check) {
+  if (!box.Visible || !box.Text.starts_with('-')) return "";
+  ArmyState trial = state;
+  Nobody nobody;
+  try {
+    static_cast<void>(check(trial, nobody));
+    return "";
+  } catch (const RuntimeError&) {
+    return "Points cannot go as far as " + box.Text + "; leaving the box ends the editor.";
+  }
 }
 
 /// Verification asks for a leader at least, so that nothing is saved.
@@ -86,6 +118,27 @@ std::string FileNameWarning(const ArmyState& state, const Disk& disk) {
   std::error_code error;
   if (!fs::is_directory(place, error)) return "There is no folder " + AnsiFromPath(folder) + ".";
   return "Load army does not list the armies of folder " + AnsiFromPath(folder) + ".";
+}
+
+std::string UnitsWarning(const ArmyState& state, const Disk& disk) {
+  std::string warning;
+  for (Int16 k; k <= decltype(state.Units.Buy)::Last && warning.empty(); ++k) {
+    warning = QuantityWarning(state, state.Units.Buy[k], [&](ArmyState& army, Host& host) {
+      return Buy_Validate(army, disk, host, k);
+    });
+  }
+  return warning;
+}
+
+std::string CardsWarning(const ArmyState& state) {
+  const auto& boxes = state.Command.SpecBuy;
+  std::string warning;
+  for (Int16 j; boxes.Has(j) && warning.empty(); ++j) {
+    warning = QuantityWarning(state, boxes[j], [j](ArmyState& army, Host& host) {
+      return SpecBuy_Validate(army, host, j);
+    });
+  }
+  return warning;
 }
 
 std::string LengthWarning(std::string_view text, std::size_t lineBreakSize) {

@@ -35,6 +35,12 @@ std::string BaseArmyWarning(const ArmyState& state, const Disk& disk);
 /// armies doesn't show. Looks for the folder.
 std::string FileNameWarning(const ArmyState& state, const Disk& disk);
 
+// The points leave 16 bits with the negative quantity that was typed into a box and not entered
+// yet.
+
+std::string UnitsWarning(const ArmyState& state, const Disk& disk);
+std::string CardsWarning(const ArmyState& state);
+
 /// How full the line of the file is that takes a description, from 200 bytes on. Each line break of
 /// `text` takes `lineBreakSize` bytes there.
 std::string LengthWarning(std::string_view text, std::size_t lineBreakSize);

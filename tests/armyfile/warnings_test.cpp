@@ -65,4 +65,17 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
   EXPECT_EQ(LengthWarning(std::string(196, 'x') + "\r\n\r\n", 2), "200 of 254");
 }
 
+TEST(Warnings, TellOfAQuantityThatEndsTheEditor) {
+  SampleArmy desk;
+  desk.NewArmy("Sample Army");
+  const std::string told = "Points cannot go as far as -20000; leaving the box ends the editor.";
+  for (const auto& [text, warning] :
+       {std::pair("-20000", told), std::pair("-300", std::string())}) {
+    desk.Army.Units.Buy[1].Text = text;
+    desk.Army.Command.SpecBuy[1].Text = text;
+    EXPECT_EQ(UnitsWarning(desk.Army, desk.Store), warning);
+    EXPECT_EQ(CardsWarning(desk.Army), warning);
+  }
+}
+
 }  // namespace tarnwick

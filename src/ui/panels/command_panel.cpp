@@ -95,6 +95,9 @@ QWidget* CommandPanelWidget::NewSpecialFrame() {
   auto* layout = new QVBoxLayout(cards_);
   cardRows_ = new QGridLayout;
   layout->addLayout(cardRows_);
+  cardsWarning_ = NewWarning("CardsWarning", cards_);
+  layout->addWidget(cardsWarning_);
+  bindings_.Add([this] { ShowWarning(cardsWarning_, CardsWarning(army_)); });
   layout->addStretch();
   const char* const captions[] = {"Card", "$$", "Max", "Buy"};
   for (int column = 0; column < 4; ++column) {
@@ -125,6 +128,8 @@ void CommandPanelWidget::AddCardRow() {
   bindings_.Add([quantity, &card = command.SpecNameLabel[j], &limit = command.SpecMaxLabel[j]] {
     ShowSpokenName(quantity, ToQt("Buy " + card.Caption + ", at most " + limit.Caption));
   });
+  connect(quantity, &QLineEdit::textEdited, this,
+          [this] { ShowWarning(cardsWarning_, CardsWarning(army_)); });
   session_.Guard(
       quantity,
       [&command, j] {

@@ -5,6 +5,7 @@
 #include "ui/panels/panel_widget.h"
 
 class QGridLayout;
+class QLabel;
 
 namespace tarnwick {
 
@@ -24,6 +25,7 @@ class CommandPanelWidget : public PanelWidget {
 
   QWidget* cards_ = nullptr;
   QGridLayout* cardRows_ = nullptr;
+  QLabel* cardsWarning_ = nullptr;
   QWidget* lastControl_ = nullptr;  ///< of those that are there, in the order of Tab
   int cardRowCount_ = 0;
 };

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "armyfile/resetting.h"
+#include "armyfile/warnings.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "rules/unit_grid.h"
@@ -87,7 +88,10 @@ UnitsPanelWidget::UnitsPanelWidget(Session& session) : PanelWidget(Panel::Units,
   auto* reset = Named(new QPushButton("&Reset army", this), "ResetArmy");
   TitleLine()->addWidget(verify);
   TitleLine()->addWidget(reset);
+  warning_ = NewWarning("UnitsWarning", this);
+  bindings_.Add([this] { ShowWarning(warning_, UnitsWarning(army_, disk_)); });
   Body()->addWidget(NewGrid());
+  Body()->addWidget(warning_);
   Body()->addStretch();
   session_.Connect(verify, [this] { VerifyBtn_Click(army_, user_); });
   session_.Connect(reset, Step("Reset army"), [this] { ResetArmy_Click(work_, disk_); });
@@ -171,6 +175,8 @@ void UnitsPanelWidget::AddQuantity(int line) {
   quantity->setFixedWidth(TextWidth(quantity, headings[buy].Characters));
   lines_.back().Quantity = quantity;
   grid_->addWidget(bindings_.Add(quantity, army_.Units.Buy[line]), line + 1, buy);
+  connect(quantity, &QLineEdit::textEdited, this,
+          [this] { ShowWarning(warning_, UnitsWarning(army_, disk_)); });
   session_.Guard(
       quantity,
       [this, line] {

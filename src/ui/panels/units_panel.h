@@ -7,6 +7,7 @@
 #include "ui/panels/panel_widget.h"
 
 class QGridLayout;
+class QLabel;
 
 namespace tarnwick {
 
@@ -43,6 +44,7 @@ class UnitsPanelWidget : public PanelWidget {
   };
 
   QGridLayout* grid_ = nullptr;
+  QLabel* warning_ = nullptr;
   std::vector<Line> lines_;
 };
 
