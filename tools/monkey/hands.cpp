@@ -113,13 +113,17 @@ void Hands::DoOneOf(std::span<const Kind> some, QWidget& window) {
   (this->*kind->Do)(window);
 }
 
-void Hands::Note(const QString& what) {
+void Hands::Look() {
   warnings_.clear();
   for (const QWidget* window : {&form_, QApplication::activeModalWidget()}) {
     if (window == nullptr) continue;
     for (const auto* label : window->findChildren<QLabel*>())
       if (label->objectName().endsWith("Warning")) warnings_ += label->text() + "\n";
   }
+}
+
+void Hands::Note(const QString& what) {
+  Look();
   journal_.Write(Entry::Step, what.toStdString());
 }
 
@@ -131,20 +135,19 @@ void Hands::Note(const char* what, const QWidget& control, const QString& more) 
 }
 
 void Hands::UseControl(QWidget& window) {
-  const QList<QWidget*> controls = Controls(window);
+  QList<QWidget*> controls = Controls(window);
   if (controls.isEmpty()) return;
-  // A long array counts no more than a single control.
-  QStringList arrays;
-  for (const QWidget* control : controls)
-    arrays.append(ArrayOf(*control));
-  arrays.removeDuplicates();
-  const QString array = dice_.Pick(arrays);
-  QList<QWidget*> elements = controls;
-  elements.removeIf([&](const QWidget* control) { return ArrayOf(*control) != array; });
-  QWidget& control = *dice_.Pick(elements);
-  const auto* use = std::ranges::find_if(
-      uses, [&](const Use& candidate) { return control.inherits(candidate.Class); });
-  (this->*use->Do)(control);
+  if (dice_.OneIn(2)) {  // a long array counts no more than a single control
+    QStringList arrays;
+    for (const QWidget* control : controls)
+      arrays.append(ArrayOf(*control));
+    arrays.removeDuplicates();
+    const QString array = dice_.Pick(arrays);
+    controls.removeIf([&](const QWidget* control) { return ArrayOf(*control) != array; });
+  }
+  QWidget& control = *dice_.Pick(controls);
+  const auto fits = [&](const Use& use) { return control.inherits(use.Class); };
+  (this->*std::ranges::find_if(uses, fits)->Do)(control);
 }
 
 QList<QWidget*> Hands::Controls(const QWidget& window) {
@@ -155,62 +158,6 @@ QList<QWidget*> Hands::Controls(const QWidget& window) {
   for (const QWidget* control : controls)
     journal_.WriteOnce(Entry::Known, control->objectName().toStdString());
   return controls;
-}
-
-void Hands::Click(QWidget& button) {
-  const bool twice = dice_.OneIn(8);
-  Note(twice ? "double-click" : "click", button);
-  driver_.Click(button.objectName());
-  if (!twice || !button.isVisible()) return;
-  QTest::mouseDClick(button.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                     button.mapTo(button.window(), QPoint(1, 1)));
-}
-
-void Hands::Choose(QWidget& dropDown) {
-  const int entry = dice_.Roll(std::max(1, static_cast<QComboBox&>(dropDown).count()));
-  Note("choose", dropDown, QString::number(entry));
-  driver_.Choose(dropDown.objectName(), entry);
-}
-
-void Hands::UseList(QWidget& widget) {
-  auto& list = static_cast<QListWidget&>(widget);
-  QList<int> rows;
-  for (int row = 0; row < list.count(); ++row)
-    if (!list.isRowHidden(row)) rows.append(row);
-  if (rows.isEmpty()) {
-    Note("click empty", list);
-    WindowDriver::ClickAt(*list.viewport(), list.viewport()->rect().center());
-    return;
-  }
-  const int row = dice_.Pick(rows);
-  const bool twice = dice_.OneIn(2);
-  Note(twice ? "double-click" : "click", list, QString::number(row));
-  driver_.ClickEntry(list.objectName(), row, twice);
-}
-
-void Hands::Fill(QWidget& box) {
-  const QString text = AnyText(dice_);
-  constexpr Qt::Key ends[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape, Qt::Key_unknown};
-  const Qt::Key end = dice_.Pick(ends);
-  const bool replace = !dice_.OneIn(4);
-  Note(replace ? "fill" : "type into", box, "\"" + text + "\" " + QKeySequence(end).toString());
-  driver_.Click(box.objectName());
-  if (replace) driver_.Press(Qt::Key_A, Qt::ControlModifier);
-  if (text.isEmpty()) driver_.Press(Qt::Key_Delete);
-  if (text.size() < 12) {
-    driver_.Type(text);
-  } else {
-    driver_.Paste(text);
-  }
-  if (end != Qt::Key_unknown) driver_.Press(end);
-}
-
-void Hands::Read(QWidget& text) {
-  auto& area = *static_cast<QAbstractScrollArea&>(text).viewport();
-  const QPoint place(dice_.Roll(area.width()), dice_.Roll(area.height()));
-  Note("click", text, QString("at %1,%2").arg(place.x()).arg(place.y()));
-  WindowDriver::ClickAt(area, place);
-  driver_.Press(Qt::Key_PageDown);
 }
 
 void Hands::Press(const QString& key) {

@@ -58,6 +58,8 @@ class Hands {
   void DoOneOf(std::span<const Kind> some, QWidget& window);
   static bool IsControl(const QWidget& widget);
   QList<QWidget*> Controls(const QWidget& window);
+  /// Reads the warnings.
+  void Look();
   /// Before it is done: it may be the last of the process.
   void Note(const QString& what);
   void Note(const char* what, const QWidget& control, const QString& more = "");

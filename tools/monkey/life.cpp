@@ -27,6 +27,7 @@ constexpr const char *program = "desk/program", *copy = "copy/program";
 constexpr std::pair<const char*, const char*> toldEnds[] = {
     {"another leader ends the editor", "Subscript out of range"},
     {"Delete would end the editor", "cannot be deleted"},
+    {"leaving the box ends the editor", "Overflow"},
     {"There is no folder", "cannot be written"}};
 
 /// The catalogs look old: what was just written is read at every look.

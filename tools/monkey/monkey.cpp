@@ -47,6 +47,7 @@ class Report {
       last_.push_back(entry == Entry::Step ? std::to_string(step_) + " " + text : "    " + text);
       if (last_.size() > shownSteps) last_.pop_front();
     }
+    if (entry == Entry::Told) ++told_[text];
     if (entry == Entry::Fault) ShowFault(text);
   }
 
@@ -69,6 +70,8 @@ class Report {
     };
     const auto places = [&](const auto& names) { return std::ranges::count_if(names, isPlace); };
     const auto controls = [&](const auto& names) { return std::ssize(names) - places(names); };
+    for (const auto& [end, times] : told_)
+      std::printf("told %d times: %s\n", times, end.c_str());
     std::string unused;
     for (const std::string& name : known_)
       if (!used_.contains(name)) unused += " " + name;
@@ -94,6 +97,7 @@ class Report {
   }
 
   std::map<Entry, int> counts_;
+  std::map<std::string, int> told_;
   std::set<std::string> known_, used_;
   std::deque<std::string> last_;
   unsigned seed_ = 0;
