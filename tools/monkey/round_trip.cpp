@@ -69,11 +69,14 @@ std::string FreePoints(const ArmyState& army) {
   return NumberText(army.PointsLeft) + " and " + NumberText(army.CommandPts);
 }
 
-/// The warning that stands in the window when the army cannot be saved, or loaded back.
+/// The warning that stands in the window when a box cannot be left, or the army not be saved, or
+/// not be loaded back.
 std::string Warning(const WorkingArmy& work, const Disk& disk) {
-  for (const std::string& warning :
-       {FileNameWarning(work.Army, disk), BaseArmyWarning(work.Army, disk)})
+  const ArmyState& army = work.Army;
+  for (std::string warning : {UnitsWarning(army, disk), CardsWarning(army),
+                              FileNameWarning(army, disk), BaseArmyWarning(army, disk)}) {
     if (!warning.empty()) return warning;
+  }
   return "";
 }
 
@@ -126,9 +129,9 @@ std::string RoundTrip::Try(WorkingArmy work, const std::string& focus) const {
   Disk disk(copy_);
   work.Army.ArmyListFile = disk.ModuleFolder(work.Army.BrakkaMode) / "armylist.dat";
   Clerk clerk(work, disk);
-  if (Refuses(focus, work, disk, clerk)) return clerk.Said;
   std::string warning = Warning(work, disk);
   if (!warning.empty()) return warning;
+  if (Refuses(focus, work, disk, clerk)) return clerk.Said;
   if (work.Army.SelectedLeader == -1) {
     return SaveArmy(work, disk, clerk) ? throw Lost("is saved without a leader") : clerk.Said;
   }
