@@ -35,7 +35,6 @@ constexpr std::size_t shownSteps = 20;
 /// What the journals of all lives say.
 class Report {
  public:
-  /// Returns whether it is a fault.
   void Read(const std::string& line) {
     const auto entry = static_cast<Entry>(line.front());
     ++counts_[entry];
