@@ -114,6 +114,7 @@ void Hands::DoOneOf(std::span<const Kind> some, QWidget& window) {
 }
 
 void Hands::Look() {
+  if (!end_.isEmpty()) return;  // what was told before it counts
   warnings_.clear();
   for (const QWidget* window : {&form_, QApplication::activeModalWidget()}) {
     if (window == nullptr) continue;
