@@ -107,7 +107,7 @@ std::string BaseArmyWarning(const ArmyState& state, const Disk& disk) {
   return "The module has no " + base + "; saved now, this army cannot be loaded.";
 }
 
-std::string FileNameWarning(const ArmyState& state, const Disk& disk) {
+std::string FolderWarning(const ArmyState& state, const Disk& disk) {
   const std::string& name = state.Management.ArmyFileName.Text;
   if (name.empty()) {
     return HasNothing(state) ? "" : "An army without a file name can be saved, but not loaded.";

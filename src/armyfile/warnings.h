@@ -33,7 +33,7 @@ std::string BaseArmyWarning(const ArmyState& state, const Disk& disk);
 
 /// The army would be saved under no name, in a folder that isn't there, or in one that the list of
 /// armies doesn't show. Looks for the folder.
-std::string FileNameWarning(const ArmyState& state, const Disk& disk);
+std::string FolderWarning(const ArmyState& state, const Disk& disk);
 
 // The points leave 16 bits with the negative quantity that was typed into a box and not entered
 // yet.

@@ -13,7 +13,7 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
   const auto told = [&] {
     return LeaderWarning(desk.Army) + DeleteWarning(desk.Army, desk.Store, form) +
            SetupWarning(desk.Work) + TerrainWarning(desk.Army) +
-           BaseArmyWarning(desk.Army, desk.Store) + FileNameWarning(desk.Army, desk.Store);
+           BaseArmyWarning(desk.Army, desk.Store) + FolderWarning(desk.Army, desk.Store);
   };
   EXPECT_EQ(told(),
             "Units can be deployed once the army was saved and loaded; until then setups belong to "
@@ -36,7 +36,7 @@ TEST(Warnings, TellWhatTheNextClickEndsOrLoses) {
             "Delete removes saved.army from the base game's folder"
             "Terrain is saved into Tyre.army of the base game's folder and not read back.");
   file = "gaul/Tyre";
-  EXPECT_EQ(FileNameWarning(desk.Army, desk.Store), "There is no folder gaul.");
+  EXPECT_EQ(FolderWarning(desk.Army, desk.Store), "There is no folder gaul.");
   std::filesystem::remove(desk.Folder / "saved.army");
   file = "";
   EXPECT_EQ(told(),

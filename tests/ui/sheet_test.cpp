@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Tarnwick authors
 // SPDX-License-Identifier: MIT
-#include <QAction>
 #include <QDialog>
 #include <QFileDialog>
 #include <QPageLayout>
@@ -24,7 +23,7 @@ struct SheetTest : WindowTest {
         Enter("fileNameEdit", QString::fromStdString(file.string()));
         Press(Qt::Key_Return);
       });
-      form.findChild<QAction*>(save)->trigger();
+      Click(save);
       form.reject();
     });
     Press(Qt::Key_P, Qt::ControlModifier);
@@ -52,7 +51,7 @@ TEST_F(SheetTest, IsShownAndSavedAndLeavesTheArmyAlone) {
   EXPECT_TRUE(state() == before);
 }
 
-TEST_F(SheetTest, TearsNoRow) {
+TEST(SheetPages, TearNoRow) {
   // Of rows of 14 lines three fit on a page, and a fourth in part.
   const auto pagesOf = [](std::size_t rows, int lines) {
     std::string cell;

@@ -165,7 +165,7 @@ TEST_F(WindowTest, TheModuleHasItsOwnArmiesAndTrapsAndNoPeriod) {
   OnDialog([this] { CloseDialog(); });
   Click("LoadBtn", "NewArmyBtn");
   Enter("ArmyFileName", "gaul/Oorl");
-  EXPECT_TRUE(Sees("FileNameWarning") && Sees("BaseArmyWarning"));
+  EXPECT_TRUE(Sees("FolderWarning") && Sees("BaseArmyWarning"));
   Click("ShowTerrainBtn");
   EXPECT_TRUE(Sees("TerrainWarning"));
   Click("ShowDetailBtn");

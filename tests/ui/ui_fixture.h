@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTest>
 
 #include "support/temp_folder.h"
 #include "ui/editor.h"
@@ -79,7 +80,8 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
     ASSERT_TRUE(Form.Start());
     Form.resize(1280, 800);
     Form.show();
-    Settle();
+    // With its first paint come the panels behind.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Form.findChild<QWidget*>("EditFrame(0)"); }));
   }
 
   void TearDown() override {

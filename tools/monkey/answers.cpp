@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
@@ -36,6 +37,7 @@ void Hands::Answer(QMessageBox& box) {
 }
 
 void Hands::WorkOff(QWidget& dialog) {
+  if (dialog.objectName() == "SaveSheetForm") return NameSheet(dialog);
   auto* armies = dialog.findChild<QListWidget*>("ArmyList");
   if (armies != nullptr && armies->count() > 0 && !dice_.OneIn(3)) ChooseArmy(*armies);
   for (int left = 12; left > 0 && dialog.isVisible() && end_.isEmpty(); --left)
@@ -43,6 +45,14 @@ void Hands::WorkOff(QWidget& dialog) {
   if (!dialog.isVisible() || !end_.isEmpty()) return;
   Note("close", dialog);
   driver_.CloseDialog();
+}
+
+void Hands::NameSheet(QWidget& dialog) {
+  const QString name = QDir::homePath() + QString("/%1").arg(dice_.Roll(3));
+  Note("name the sheet", dialog, name);
+  driver_.Enter("fileNameEdit", name);
+  driver_.Press(dice_.OneIn(3) ? Qt::Key_Escape : Qt::Key_Return);
+  if (dialog.isVisible()) driver_.CloseDialog();
 }
 
 void Hands::ChooseArmy(QListWidget& list) {

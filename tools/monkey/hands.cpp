@@ -20,13 +20,14 @@ namespace tarnwick {
 namespace {
 
 constexpr const char* keys[] = {
-    "Tab",    "Tab",          "Shift+Tab",   "Return",    "Return",   "Esc",    "Esc",
-    "Up",     "Down",         "Left",        "Right",     "PgUp",     "PgDown", "Home",
-    "End",    "Space",        "Del",         "Backspace", "F1",       "Ctrl+Z", "Ctrl+Z",
-    "Ctrl+Y", "Ctrl+Shift+Z", "Ctrl+A",      "Ctrl+C",    "Ctrl+X",   "Ctrl+V", "Ctrl+1",
-    "Ctrl+2", "Ctrl+3",       "Ctrl+4",      "Ctrl+5",    "Ctrl+6",   "Ctrl+N", "Ctrl+O",
-    "Ctrl+S", "Ctrl+PgUp",    "Ctrl+PgDown", "Ctrl+Q",    "Alt+Left", "1",      "3",
-    "9",      "Ctrl+Home",    "Shift+End",   "Enter"};
+    "Tab",    "Tab",       "Shift+Tab",   "Return",    "Return",       "Esc",
+    "Esc",    "Up",        "Down",        "Left",      "Right",        "PgUp",
+    "PgDown", "Home",      "End",         "Space",     "Del",          "Backspace",
+    "F1",     "Ctrl+Z",    "Ctrl+Z",      "Ctrl+Y",    "Ctrl+Shift+Z", "Ctrl+A",
+    "Ctrl+C", "Ctrl+X",    "Ctrl+V",      "Ctrl+1",    "Ctrl+2",       "Ctrl+3",
+    "Ctrl+4", "Ctrl+5",    "Ctrl+6",      "Ctrl+N",    "Ctrl+O",       "Ctrl+S",
+    "Ctrl+P", "Ctrl+PgUp", "Ctrl+PgDown", "Ctrl+Q",    "Alt+Left",     "1",
+    "3",      "9",         "Ctrl+Home",   "Shift+End", "Enter"};
 
 constexpr QSize sizes[] = {{1280, 800}, {1000, 700}, {1920, 1080}, {640, 480}, {1280, 560}};
 

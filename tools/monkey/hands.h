@@ -21,10 +21,11 @@ namespace tarnwick {
 
 /// The panels, windows and dialogs by their names, and what all message boxes go by.
 inline constexpr const char* messageBox = "message box";
-inline constexpr std::array<std::string_view, 15> places = {
+inline constexpr std::array<std::string_view, 17> places = {
     "EditFrame(0)",      "EditFrame(1)", "EditFrame(2)",   "EditFrame(3)", "EditFrame(4)",
     "EditFrame(5)",      "EditFrame(6)", "MainForm",       "GuideForm",    "PictureForm",
-    "ArmySelectionForm", "ArmyListForm", "LeaderMgmtForm", "specForm",     messageBox};
+    "ArmySelectionForm", "ArmyListForm", "LeaderMgmtForm", "specForm",     "SheetForm",
+    "SaveSheetForm",     messageBox};
 
 /// The hands of a monkey on the main window and on all that it opens. The journal tells what they
 /// do, and which panels, dialogs and controls there were and were used.
@@ -83,6 +84,8 @@ class Hands {
   void See(QWidget& window);
   void Answer(QMessageBox& box);
   void WorkOff(QWidget& dialog);
+  /// The one dialog that reaches every folder of the machine, so it gets a harmless name.
+  void NameSheet(QWidget& dialog);
   void ChooseArmy(QListWidget& list);
   void WatchMenus();
   void UseMenu();

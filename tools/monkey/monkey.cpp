@@ -109,6 +109,7 @@ class Report {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "*.warning=false");
   qputenv("QT_HASH_SEED", "0");
+  qputenv("HOME", life.Folder.c_str());  // where it saves sheets
   char name[] = "monkey";
   char* arguments[] = {name, nullptr};
   int count = 1;

@@ -74,7 +74,7 @@ std::string FreePoints(const ArmyState& army) {
 std::string Warning(const WorkingArmy& work, const Disk& disk) {
   const ArmyState& army = work.Army;
   for (std::string warning : {UnitsWarning(army, disk), CardsWarning(army),
-                              FileNameWarning(army, disk), BaseArmyWarning(army, disk)}) {
+                              FolderWarning(army, disk), BaseArmyWarning(army, disk)}) {
     if (!warning.empty()) return warning;
   }
   return "";

@@ -72,7 +72,8 @@ void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
   bar->setIconSize(QSize(16, 16));  // all of it fits on a small screen
   const auto add = [&](const char* object, const QString& ending,
                        const std::function<std::string()>& make) {
-    auto* action = Named(bar->addAction("Save as " + ending.toUpper() + "..."), object);
+    QAction* action = bar->addAction("Save as " + ending.toUpper() + "...");
+    Named(bar->widgetForAction(action), object);
     QObject::connect(action, &QAction::triggered, &preview,
                      [&, ending, make] { SaveAs(name, ending, make, &preview); });
   };

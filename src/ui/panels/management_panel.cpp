@@ -55,13 +55,13 @@ QWidget* ManagementPanelWidget::NewNameFrame() {
   folder->setToolTip("Show the folder of the army files; armies of friends go there");
   layout->addWidget(folder, 0, 2, Qt::AlignLeft);
   layout->setColumnStretch(2, 1);
-  auto* warning = NewWarning("FileNameWarning", frame);
+  auto* warning = NewWarning("FolderWarning", frame);
   layout->addWidget(warning, 2, 1, 1, 2);
 
   bindings_.Add([fileHint, this] {
     fileHint->setText(army_.BrakkaMode ? ".army in the folder brakka" : ".army");
   });
-  bindings_.Add([this, warning] { ShowWarning(warning, FileNameWarning(army_, disk_)); });
+  bindings_.Add([this, warning] { ShowWarning(warning, FolderWarning(army_, disk_)); });
   session_.Connect(name, Step("Army name"), [] {});
   session_.Connect(file, Step("File name"), [] {});
   session_.Connect(folder, [this] { OpenFolder(); });
