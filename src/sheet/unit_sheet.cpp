@@ -92,7 +92,9 @@ std::string UnitPicture(const ArmyState& army, const Disk& disk, Int16 image, in
   const std::string type = LowerCase(name.extension().string());
   const bool leaves = std::ranges::find(name, "..") != name.end();
   if (leaves || (type != ".svg" && type != ".png")) return "";
-  std::ifstream in(PictureFile(disk, army.BrakkaMode, id), std::ios::binary);
+  const fs::path file = PictureFile(disk, army.BrakkaMode, id);
+  if (!FileExists(file)) return "";
+  std::ifstream in(file, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
   return bytes.empty() ? "" : PictureElement(type == ".svg" ? "svg+xml" : "png", bytes, side);
 }

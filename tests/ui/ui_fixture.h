@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 
 #include "support/temp_folder.h"
 #include "ui/editor.h"
@@ -77,11 +78,15 @@ struct WindowTest : testing::Test, ShippedFolder, Editor, WindowDriver {
         EXPECT_FALSE(box->frameGeometry().intersects(row)) << entry->objectName().toStdString();
       }
     });
+    // After an error in the test before no dialog would stay open until a program begins anew.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+    QApplication::exec();
     ASSERT_TRUE(Form.Start());
     Form.resize(1280, 800);
     Form.show();
     // With its first paint come the panels behind.
     ASSERT_TRUE(QTest::qWaitFor([this] { return Form.findChild<QWidget*>("EditFrame(0)"); }));
+    Settle();
   }
 
   void TearDown() override {
