@@ -143,8 +143,8 @@ std::string ArmySheet(const WorkingArmy& work, const Disk& disk, const TerrainPi
   return Element("h1", HtmlText(SheetTitle(work))) + MissingText(summary) + Facts(work, summary) +
          (description.empty() ? "" : Element("p", Element("i", HtmlText(description)))) +
          UnitSheet(army, disk) +
-         TwoInARow({Limits(army, summary),
-                    Element("h2", "Battlefield") + TerrainMap(work.Field, terrain)}) +
+         TwoInARow({Element("h2", "Battlefield") + TerrainMap(work.Field, terrain),
+                    Limits(army, summary)}) +
          TwoInARow(SetupPlans(work, disk));
 }
 

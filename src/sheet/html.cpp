@@ -75,9 +75,9 @@ std::string TwoInARow(const std::vector<std::string>& parts) {
     std::string cells;
     for (std::size_t k = i; k < i + 2; ++k)
       cells += Element("td class='half' width='50%'", k < parts.size() ? parts[k] : "");
-    rows += Element("tr", cells);
+    rows += Element("table class='below' width='100%'", Element("tr", cells));
   }
-  return rows.empty() ? "" : Element("table class='below' width='100%'", rows);
+  return rows;
 }
 
 }  // namespace tarnwick

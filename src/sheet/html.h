@@ -18,7 +18,8 @@ std::string Element(std::string_view tag, std::string_view contents);
 /// bytes, such as "png".
 std::string PictureElement(std::string_view type, std::string_view bytes, int side);
 
-/// Parts of a page beside each other, two in a row; "" without any. No row is torn in print.
+/// Parts of a page beside each other, two in a row; "" without any. Each row is a table of its own,
+/// so that none is torn in print.
 std::string TwoInARow(const std::vector<std::string>& parts);
 
 }  // namespace tarnwick

@@ -3,10 +3,14 @@
 #include "sheet/unit_sheet.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <string_view>
+#include <system_error>
 
 #include "base/ansi.h"
 #include "base/numbers.h"
@@ -50,6 +54,27 @@ std::string Footnotes(const Abilities& abilities) {
   return notes;
 }
 
+/// A plain file, no larger than pictures are, that is in the folder or below it, links followed.
+bool LiesInside(const fs::path& file, const fs::path& folder) {
+  constexpr std::uintmax_t largest = 4'000'000;
+  std::error_code error;
+  const fs::path way = fs::relative(file, folder, error);
+  return !way.empty() && *way.begin() != ".." && FileExists(file) &&
+         fs::file_size(file, error) <= largest;
+}
+
+/// Whether an SVG names another file, which those who draw it would read; or can't be told.
+bool LooksElsewhere(std::string_view svg) {
+  constexpr std::string_view link = "href";
+  if (!svg.starts_with('<') || svg.find('\0') != std::string_view::npos) return true;
+  for (auto at = svg.find(link); at != std::string_view::npos; at = svg.find(link, at + 1)) {
+    const std::size_t quote = std::min(svg.find_first_of("\"'", at), svg.size() - 1);
+    const std::string_view target = svg.substr(quote + 1);
+    if (!target.starts_with('#') && !target.starts_with("data:")) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string UnitSheet(const ArmyState& army, const Disk& disk) {
@@ -87,16 +112,13 @@ std::string UnitSheet(const ArmyState& army, const Disk& disk) {
 
 std::string UnitPicture(const ArmyState& army, const Disk& disk, Int16 image, int side) {
   if (image < 1 || image > army.Catalog.TotImages) return "";
-  const std::string& id = army.Catalog.Images[image].Id;
-  const fs::path name = PathIn("", id);
-  const std::string type = LowerCase(name.extension().string());
-  const bool leaves = std::ranges::find(name, "..") != name.end();
-  if (leaves || (type != ".svg" && type != ".png")) return "";
-  const fs::path file = PictureFile(disk, army.BrakkaMode, id);
-  if (!FileExists(file)) return "";
+  const fs::path file = PictureFile(disk, army.BrakkaMode, army.Catalog.Images[image].Id);
+  const std::string type = LowerCase(file.extension().string());
+  if ((type != ".svg" && type != ".png") || !LiesInside(file, disk.ProgramFolder)) return "";
   std::ifstream in(file, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  return bytes.empty() ? "" : PictureElement(type == ".svg" ? "svg+xml" : "png", bytes, side);
+  if (bytes.empty() || (type == ".svg" && LooksElsewhere(bytes))) return "";
+  return PictureElement(type == ".svg" ? "svg+xml" : "png", bytes, side);
 }
 
 }  // namespace tarnwick

@@ -65,13 +65,13 @@ TEST_F(Sheet, ShowsTheWholeArmy) {
             "2|{22 svg+xml;base64,PHN2Zy8+}|SK Long javelin|3|1|J||8|\n"
             "1||PH Pike|4.5|4||PIKES, WALL|20|\n"
             "PIKES Long.\nWALL A wall.\n"
-            "|Battlefield\n"
+            "Battlefield\n"
             "{32 svg+xml;base64,Yw==}\nclear|{32 svg+xml;base64,Yw==}\nclear|"
             "{32 svg+xml;base64,Yw==}\nclear|\n"
             "{32 svg+xml;base64,d28=}\nwood|{32 svg+xml;base64,Yw==}\nclear|"
             "{32 svg+xml;base64,Yw==}\nclear|\n"
             "{32 svg+xml;base64,Yw==}\nclear|{32 svg+xml;base64,Yw==}\nclear|"
-            "{32 svg+xml;base64,c2xv}\nslope|\n|\n"
+            "{32 svg+xml;base64,c2xv}\nslope|\n||\n"
             "Setup 2 a\nb\n"
             "Left|Centre|Right|\n"
             "1&nbsp; SK TQ 3 Sz 1 J\n2&nbsp;|3&nbsp;\n4&nbsp;\n5&nbsp;\n6&nbsp;\n7&nbsp;|"
@@ -85,7 +85,8 @@ TEST_F(Sheet, SaysWhatIsMissingAndHowTheLimitsStand) {
       Says("An army without a name\nThis army is not complete:\n"
            "You must buy at least 1 units of type HI\nPlease select a Leader\n"));
   EXPECT_TRUE(Says("\nLeader|none|")) << Text();
-  EXPECT_TRUE(Says("No units yet.\nLimits\nLimit|need|have||\nHI|1|0|not met|\n"));
+  EXPECT_TRUE(Says("No units yet.\n"));
+  EXPECT_TRUE(Says("|\n|Limits\nLimit|need|have||\nHI|1|0|not met|\n"));
   Army.BaseUnits[1] = ParseIdentity("HI,,4,4,");
   Army.BaseUnits[1].Bought = -1;  // as a negative quantity leaves it
   Army.TotUnits = 1;
@@ -107,16 +108,30 @@ TEST_F(Sheet, ShowsTextsAsTextsAndReadsNoPictureElsewhere) {
   Field.AreaTerrain[4] = "<LAVA>";
   EXPECT_TRUE(Says("&lt;b&gt;&quot;A&quot; &amp; \xC3\x84 &lt;/b&gt;\n"));
   EXPECT_TRUE(Says("|&lt;lava&gt;|"));
-  Folder.Write("out.svg", "out");
-  Folder.Write("program/in.svg", "in");
-  Folder.Write("program/in.txt", "in");
+  const std::pair<const char*, const char*> files[] = {
+      {"out.svg", "<svg/>"},
+      {"program/in.svg", "<svg>"},
+      {"program/in.txt", "<svg/>"},
+      {"program/folder.svg/x", ""},
+      {"program/large.png", ""},
+      {"program/href.svg", "<svg><image xlink:href = '/secret.png'/></svg>"},
+      {"program/packed.svg", "\x1F\x8B"},
+      {"program/ours.svg", "<a href='#a' href=\"data:x\">"}};
+  for (const auto& [name, bytes] : files)
+    Folder.Write(name, bytes);
+  Folder.Write("program/large.png", std::string(4'000'001, 'x'));
+  std::filesystem::create_symlink(Folder / "out.svg", Folder / "program/link.svg");
   Store.ProgramFolder = Folder / "program";
-  for (const char* id : {"../out.svg", "x/..\\../out.svg", "in.txt", "none.svg", ""}) {
+  for (const char* id :
+       {"../out.svg", "x/..\\../out.svg", "../program/none.svg", "in.txt", "none.svg", "",
+        "folder.svg", "large.png", "href.svg", "packed.svg", "link.svg"}) {
     Army.Catalog.Images[3].Id = id;
     EXPECT_TRUE(Says("\n2||SK")) << id;
   }
+  Army.Catalog.Images[3].Id = "ours.svg";
+  EXPECT_FALSE(Says("\n2||SK"));
   Army.Catalog.Images[3].Id = "in.svg";
-  EXPECT_TRUE(Says("\n2|{22 svg+xml;base64,aW4=}|SK"));
+  EXPECT_TRUE(Says("\n2|{22 svg+xml;base64,PHN2Zz4=}|SK"));
 }
 
 TEST(SheetPage, PutsEachSheetOnAPageOfItsOwn) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "army_sheet/army_file.h"
 
+#include "battlefield/setups.h"
 #include "support/temp_folder.h"
 #include "support/testing.h"
 
@@ -31,10 +32,8 @@ TEST_F(ArmyFile, IsLoadedAsInTheEditorAndLeavesItAlone) {
   const LoadedArmy army = Load(Folder / "Trebia.army");
   EXPECT_EQ(Joined(army.Whole, army.Trouble, army.Work.Army.BrakkaMode), "1||0");
   EXPECT_EQ(Entries(army.Work.Field.Setup.setupList), (Lines{"1", "2"}));
-  EXPECT_EQ(Scratch.Files(), Lines{"working.setup"});
   EXPECT_EQ(Outcome(Folder / "brakka/Fenmoot.army"), "The Matriarch Goes to War");
   EXPECT_TRUE(Load(Folder / "brakka/Fenmoot.army").Work.Army.BrakkaMode);
-  EXPECT_EQ(Scratch.Files(), Lines()) << "it has no setups";
   EXPECT_EQ(Folder.Read("working.setup"), "[SETUP 1]\r\ndescription=in work\r\n");
   EXPECT_EQ(Folder.Files(), before);
 }
@@ -51,9 +50,16 @@ TEST_F(ArmyFile, LiesInAnyFolder) {
   for (const auto& [file, program, name] : {std::tuple(sent, "", trebia),
                                             {sent, "brakka", unknown},
                                             {fen, "", fenmoot},
-                                            {fen, "brakka/", fenmoot}})
+                                            {fen, "brakka/", fenmoot},
+                                            {fen, "brakka/../brakka/.", fenmoot}})
     EXPECT_EQ(Outcome(file, Folder / program), name) << program;
   EXPECT_EQ(Entries(Load(sent, Folder.Path()).Work.Field.Setup.setupList).size(), 2U);
+  EXPECT_EQ(Outcome(Folder / "./brakka/./Fenmoot.army"), fenmoot);
+  // The second module keeps setups, and looks for the version, in the folder above.
+  Elsewhere.Write("Fen.army", "[SETUP 3]\r\ndescription=Reeds\r\nfield1=PH,,4,4,\r\n");
+  const LoadedArmy setUp = Load(fen, Folder.Path());
+  EXPECT_EQ(Entries(setUp.Work.Field.Setup.setupList), Lines{"3"});
+  EXPECT_EQ(ReadSetup(setUp.Store, 3).Units[0], "PH,,4,4,");
 }
 
 TEST_F(ArmyFile, SaysWhatIsWrong) {
@@ -71,9 +77,10 @@ TEST_F(ArmyFile, SaysWhatIsWrong) {
   EXPECT_EQ(written("a.army", "area1=CLEAR", "area1=LAVA"),
             "Run-time error: Subscript out of range");
   EXPECT_EQ(written("a.txt", "1.2.1", "1.2.1"), "The name of an army file ends in .army");
-  EXPECT_EQ(written("\xC5\x81.army", "1.2.1", "1.2.1"),
-            "Its name has letters that the editor does not know");
+  EXPECT_EQ(written("\xC5\x81.army", "1.2.1", "1.2.1"), "Hannibal at the Trebia");
   EXPECT_EQ(Outcome(Folder / "none" / "none.army"), "There is no such file");
+  EXPECT_EQ(Outcome(Folder / "brakka"), "It is no plain file");
+  EXPECT_EQ(Outcome(""), "There is no such file");
 }
 
 }  // namespace tarnwick

@@ -19,9 +19,11 @@ struct LoadedArmy {
       Trouble;  ///< what the editor said while it loaded the file, and what was not verified
 };
 
-/// Loads an army file. It is one of the program folder `folder`, or of the second module's folder
-/// in it; "" stands for the folder that the file lies in. Its setups go to the folder `scratch`;
-/// nothing else is written.
+/// Loads an army file with the catalogs of the program folder `folder`; "" stands for the folder
+/// that the file lies in. When one of both is named brakka, the program folder is the one above it,
+/// and the army is one of the second module. It is loaded in the folder `scratch`, whose contents
+/// the next file replaces; nothing else is written. What keeps a file from being loaded is trouble,
+/// no exception.
 LoadedArmy LoadArmyFile(const std::filesystem::path& file, const std::filesystem::path& folder,
                         const std::filesystem::path& scratch);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Army files as a sheet to read and print, and whether they load and verify.
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QTemporaryDir>
@@ -35,8 +37,12 @@ fs::path PathOf(const QString& text) {
   return text.toStdU16String();
 }
 
+/// One line, whatever is in the texts.
 void Print(std::FILE* out, const QString& file, const std::string& ansi) {
-  std::fprintf(out, "%s: %s\n", qUtf8Printable(file), Utf8FromAnsi(ansi).c_str());
+  std::string line = file.toStdString() + ": " + Utf8FromAnsi(ansi);
+  std::ranges::replace_if(
+      line, [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
+  std::fprintf(out, "%s\n", line.c_str());
 }
 
 /// "375 of 400 army points"
@@ -65,19 +71,21 @@ class Job {
       if (!army.Trouble.empty()) status = faulty;
       Print(stdout, file, army.Trouble.empty() ? OkText(army.Work) : army.Trouble);
     }
-    return status;
+    return std::fflush(stdout) == 0 ? status : faulty;
   }
 
   Status Write(const QStringList& files, const QString& out, QPageSize::PageSizeId paper) const {
     std::vector<std::string> sheets;
     std::string title;
+    bool whole = true;
     for (const QString& file : files) {
       const LoadedArmy army = Load(file);
       if (!army.Trouble.empty()) Print(stderr, file, army.Trouble);
-      if (!army.Whole) return faulty;
+      whole = whole && army.Whole;
       sheets.push_back(ArmySheet(army.Work, army.Store, ReadTerrainPictures()));
       title += (title.empty() ? "" : ", ") + SheetTitle(army.Work);
     }
+    if (!whole) return faulty;
     const std::string html = SheetPage(title, sheets);
     const QPageLayout layout(QPageSize(paper), QPageLayout::Portrait, sheetMargins,
                              QPageLayout::Millimeter);
@@ -134,10 +142,16 @@ Status Run(const QStringList& arguments) {
   if (parser.isSet(out) && !target.endsWith(".pdf") && !target.endsWith(".html")) {
     return Misuse("The name of the sheet must end in .pdf or .html");
   }
+  const QFileInfo written(target);
+  if (written.exists() && !written.isFile()) return Misuse(target + " is no plain file");
+  const QString program = parser.value(folder);
+  if (parser.isSet(folder) && !QFileInfo(program).isDir()) {
+    return Misuse("There is no folder \"" + program + "\"");
+  }
   if (size != "a4" && size != "letter") return Misuse("The paper must be a4 or letter");
   const QTemporaryDir scratch;
   if (!scratch.isValid()) throw FileError(FromQt(scratch.errorString()));
-  const Job job(PathOf(parser.value(folder)), PathOf(scratch.path()));
+  const Job job(PathOf(program), PathOf(scratch.path()));
   if (parser.isSet(check)) return job.Check(files);
   return job.Write(files, target, size == "a4" ? QPageSize::A4 : QPageSize::Letter);
 }

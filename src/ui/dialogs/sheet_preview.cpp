@@ -8,11 +8,13 @@
 
 #include <QAction>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "base/errors.h"
 #include "catalog/file_replacement.h"
@@ -38,7 +40,14 @@ std::filesystem::path AskForFile(const QString& name, const QString& ending, QWi
   dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   dialog.selectFile(QString(name).replace('/', '-') + "." + ending);
   if (dialog.exec() != QDialog::Accepted) return {};
-  return dialog.selectedFiles().value(0).toStdU16String();
+  QString file = dialog.selectedFiles().value(0);
+  if (file.endsWith("." + ending)) return file.toStdU16String();
+  file += "." + ending;  // behind a name with a dot of its own
+  constexpr auto buttons = QMessageBox::Ok | QMessageBox::Cancel;
+  const bool replaced = QFileInfo::exists(file);
+  const std::string question = "Do you want to replace the existing " + FromQt(file) + " ?";
+  if (replaced && ShowBox(QMessageBox::Question, question, buttons) != QMessageBox::Ok) return {};
+  return file.toStdU16String();
 }
 
 /// Saves what `make` makes under a name that the user chooses.
@@ -67,7 +76,11 @@ void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
   preview.setWindowTitle("Army sheet");
   preview.resize(previewSize.boundedTo(preview.screen()->availableSize()));
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
-                   [&html](QPrinter* paper) { PrintSheets(html, *paper); });
+                   [&html](QPrinter* paper) {
+                     if (!PrintSheets(html, *paper, paper->fromPage(), paper->toPage())) {
+                       ShowBox(QMessageBox::Warning, "The sheet cannot be printed.");
+                     }
+                   });
   auto* bar = preview.findChild<QToolBar*>();
   bar->setIconSize(QSize(16, 16));  // all of it fits on a small screen
   const auto add = [&](const char* object, const QString& ending,
@@ -79,6 +92,8 @@ void ShowSheet(const WorkingArmy& work, const Disk& disk, QWidget* parent) {
   };
   add("SavePdf", "pdf", [&] { return SheetPdf(html, name, printer.pageLayout()); });
   add("SaveHtml", "html", [&] { return html; });
+  for (auto* button : bar->findChildren<QToolButton*>())
+    button->setFocusPolicy(Qt::TabFocus);
   preview.exec();
 }
 

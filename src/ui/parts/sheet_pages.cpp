@@ -30,7 +30,9 @@ constexpr int printedDots = 128, previewedDots = 52;
 QImage DecodePicture(const QString& url, int dots) {
   QByteArray bytes = QByteArray::fromBase64(url.mid(url.indexOf(',') + 1).toLatin1());
   QBuffer buffer(&bytes);
-  QImageReader reader(&buffer);
+  // The format that the page names: a picture must not turn out to be one that reads files.
+  QImageReader reader(&buffer, url.startsWith("data:image/png") ? "png" : "svg");
+  reader.setAutoDetectImageFormat(false);
   const QSize size = reader.size().scaled(dots, dots, Qt::KeepAspectRatio);
   reader.setScaledSize(size);
   QImage picture(dots, dots, QImage::Format_ARGB32_Premultiplied);
@@ -47,8 +49,10 @@ class SheetText : public QTextDocument {
 
  protected:
   QVariant loadResource(int type, const QUrl& url) override {
-    const bool inside = type == ImageResource && url.scheme() == "data";
-    return inside ? QVariant(DecodePicture(url.toString(), dots_)) : QVariant();
+    if (type != ImageResource || url.scheme() != "data") return {};
+    const QImage picture = DecodePicture(url.toString(), dots_);
+    addResource(type, url, picture);
+    return picture;
   }
 
  private:
@@ -69,32 +73,46 @@ QRectF RowArea(const QTextTable& table, int row) {
   return area;
 }
 
-/// Pushes a row that a page would end in to the next page.
-void PushRow(const QTextTable& table, int row) {
-  QTextDocument& text = *table.document();
-  const qreal page = text.pageSize().height();
+/// How far the row must go down not to be torn by the end of a page; 0 when it isn't, or when no
+/// page can hold it.
+qreal WayToNextPage(const QTextTable& table, int row) {
+  const qreal page = table.document()->pageSize().height();
   const QRectF area = RowArea(table, row);
   const qreal pageEnd = (std::floor(area.top() / page) + 1) * page;
-  if (area.bottom() <= pageEnd || area.height() > page) return;
+  return area.bottom() <= pageEnd || area.height() > page ? 0 : pageEnd - area.top();
+}
+
+/// Gives a row the room above it that it needs. Qt moves it on when its first line is pushed off
+/// the page, and keeps that room, so this is for rows of a few lines.
+void PushRow(const QTextTable& table, int row) {
   // Paddings are in dots of the screen, areas in dots of the paper.
-  const QPaintDevice& device = *text.documentLayout()->paintDevice();
+  const QPaintDevice& device = *table.document()->documentLayout()->paintDevice();
   const qreal scale =
       QGuiApplication::primaryScreen()->logicalDotsPerInchY() / device.logicalDpiY();
+  const qreal padding = WayToNextPage(table, row) * scale;
   for (int column = 0; column < table.columns(); ++column) {
     QTextTableCell cell = table.cellAt(row, column);
     QTextTableCellFormat format = cell.format().toTableCellFormat();
-    format.setTopPadding((pageEnd - area.top()) * scale);
+    format.setTopPadding(padding);
     cell.setFormat(format);
   }
-  text.markContentsDirty(0, text.characterCount());  // else only tables find their new places
 }
 
-/// Gives every row of the tables one page.
-void KeepRowsWhole(const QTextDocument& text) {
+/// Gives every row of the tables one page. A table of one row begins a page of its own if it must.
+void KeepRowsWhole(QTextDocument& text) {
   for (QTextFrame* frame : text.rootFrame()->childFrames()) {
-    const auto* table = qobject_cast<QTextTable*>(frame);
-    for (int row = 0; table != nullptr && row < table->rows(); ++row)
-      PushRow(*table, row);
+    auto* table = qobject_cast<QTextTable*>(frame);
+    for (int row = 0; table != nullptr && row < table->rows(); ++row) {
+      if (WayToNextPage(*table, row) == 0) continue;
+      if (table->rows() == 1) {
+        QTextTableFormat format = table->format();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        table->setFormat(format);
+      } else {
+        PushRow(*table, row);
+      }
+      text.markContentsDirty(0, text.characterCount());  // else only tables find their new places
+    }
   }
 }
 
@@ -109,7 +127,7 @@ TerrainPictures ReadTerrainPictures() {
   return pictures;
 }
 
-bool PrintSheets(const std::string& html, QPagedPaintDevice& device) {
+bool PrintSheets(const std::string& html, QPagedPaintDevice& device, int first, int last) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -120,9 +138,10 @@ bool PrintSheets(const std::string& html, QPagedPaintDevice& device) {
   const QSizeF page(device.width(), device.height());
   text.setPageSize(page);
   KeepRowsWhole(text);
-  const int pages = text.pageCount();
-  for (int i = 0; i < pages; ++i) {
-    if (i > 0) device.newPage();
+  const int begin = first > 0 ? first - 1 : 0;
+  const int end = last > 0 ? qMin(last, text.pageCount()) : text.pageCount();
+  for (int i = begin; i < end; ++i) {
+    if (i > begin) device.newPage();
     painter.save();
     painter.translate(0, -i * page.height());
     text.drawContents(&painter, QRectF(QPointF(0, i * page.height()), page));

@@ -21,8 +21,9 @@ TerrainPictures ReadTerrainPictures();
 inline constexpr QMarginsF sheetMargins(12, 12, 12, 12);
 
 /// Puts a page of sheets on paper, as many sheets of paper as it takes. Nothing but what is inside
-/// `html` is read. False when the device can't be begun.
-bool PrintSheets(const std::string& html, QPagedPaintDevice& device);
+/// `html` is read. From page `first` to `last`, from 1; 0 is the first or last there is. False when
+/// the device can't be begun.
+bool PrintSheets(const std::string& html, QPagedPaintDevice& device, int first = 0, int last = 0);
 
 /// The same as the bytes of a PDF file.
 std::string SheetPdf(const std::string& html, const QString& title, const QPageLayout& paper);
