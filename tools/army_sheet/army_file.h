@@ -15,8 +15,8 @@ struct LoadedArmy {
   Disk Store;
   WorkingArmy Work;
   bool Whole;  ///< it was loaded to its end
-  std::string
-      Trouble;  ///< what the editor said while it loaded the file, and what was not verified
+  /// What the editor said while it loaded the file, and what was not verified.
+  std::string Trouble;
 };
 
 /// Loads an army file with the catalogs of the program folder `folder`; "" stands for the folder

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -75,17 +76,17 @@ class Job {
   }
 
   Status Write(const QStringList& files, const QString& out, QPageSize::PageSizeId paper) const {
+    const TerrainPictures terrain = ReadTerrainPictures();
     std::vector<std::string> sheets;
     std::string title;
-    bool whole = true;
     for (const QString& file : files) {
       const LoadedArmy army = Load(file);
       if (!army.Trouble.empty()) Print(stderr, file, army.Trouble);
-      whole = whole && army.Whole;
-      sheets.push_back(ArmySheet(army.Work, army.Store, ReadTerrainPictures()));
+      if (!army.Whole) continue;  // the others are told, too
+      sheets.push_back(ArmySheet(army.Work, army.Store, terrain));
       title += (title.empty() ? "" : ", ") + SheetTitle(army.Work);
     }
-    if (!whole) return faulty;
+    if (std::ssize(sheets) < files.size()) return faulty;
     const std::string html = SheetPage(title, sheets);
     const QPageLayout layout(QPageSize(paper), QPageLayout::Portrait, sheetMargins,
                              QPageLayout::Millimeter);
